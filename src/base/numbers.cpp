@@ -1,0 +1,81 @@
+#include "base/numbers.h"
+
+#include <charconv>
+#include <limits>
+
+#include "base/text.h"
+
+namespace kestra {
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Gathers the characters of the number at the front of `text`, blanks left out, in the form that from_chars takes.
+std::string numberCharacters(std::string_view text) {
+  std::string compact;
+  for (const char c : text) {
+    if (c != ' ' && c != '\t') compact += c;
+  }
+  std::size_t at = 0;
+  const auto digits = [&] {
+    const std::size_t from = at;
+    while (at < compact.size() && isDigit(compact[at])) ++at;
+    return at > from;
+  };
+  if (at < compact.size() && (compact[at] == '+' || compact[at] == '-')) ++at;
+  bool any = digits();
+  if (at < compact.size() && compact[at] == '.') {
+    ++at;
+    any = digits() || any;
+  }
+  if (!any) return {};
+  if (at < compact.size() && std::string_view("eEdD").find(compact[at]) != std::string_view::npos) {
+    const std::size_t mark = at++;
+    if (at < compact.size() && (compact[at] == '+' || compact[at] == '-')) ++at;
+    if (digits()) {
+      compact[mark] = 'e';
+    } else {
+      at = mark;
+    }
+  }
+  compact.resize(at);
+  if (compact.front() == '+') compact.erase(0, 1);
+  return compact;
+}
+
+// What a number beyond the range of a double stands for: 0 when its exponent is negative or it has only leading zeros.
+double outOfRange(std::string_view number) {
+  const std::size_t mark = number.find('e');
+  const bool tiny = mark == std::string_view::npos ? number.find_first_of("123456789") > number.find('.')
+                                                   : number.substr(mark + 1, 1) == "-";
+  if (tiny) return 0.0;
+  const double infinite = std::numeric_limits<double>::infinity();
+  return number.front() == '-' ? -infinite : infinite;
+}
+
+}  // namespace
+
+double lenientNumber(std::string_view text) {
+  const std::string number = numberCharacters(text);
+  if (number.empty()) return 0.0;
+  double value = 0.0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  return result.ec == std::errc::result_out_of_range ? outOfRange(number) : value;
+}
+
+std::optional<long long> wholeNumber(std::string_view text) {
+  text = trim(text);
+  long long value = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec != std::errc() || result.ptr != text.data() + text.size()) return std::nullopt;
+  return value;
+}
+
+std::string generalNumber(double value) {
+  char buffer[40];
+  const auto shortest = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15);
+  std::string text = toUpper(std::string_view(buffer, static_cast<std::size_t>(shortest.ptr - buffer)));
+  return text == "-0" ? "0" : text;
+}
+
+}  // namespace kestra

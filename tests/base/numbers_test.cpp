@@ -1,0 +1,58 @@
+#include "base/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace kestra {
+namespace {
+
+constexpr double kInfinite = std::numeric_limits<double>::infinity();
+
+struct LenientCase {
+  const char* text;
+  double value;
+};
+
+class LenientNumber : public testing::TestWithParam<LenientCase> {};
+
+TEST_P(LenientNumber, stopsAtTheFirstCharacterThatIsNoPartOfANumber) {
+  EXPECT_EQ(lenientNumber(GetParam().text), GetParam().value) << '"' << GetParam().text << '"';
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, LenientNumber,
+    testing::Values(LenientCase{"1.5", 1.5}, LenientCase{"", 0}, LenientCase{"abc", 0}, LenientCase{"1.5ft", 1.5},
+                    LenientCase{" 12 34", 1234}, LenientCase{"\t7", 7}, LenientCase{"-.5", -0.5}, LenientCase{"+3", 3},
+                    LenientCase{"1e3", 1000}, LenientCase{"1D-2", 0.01}, LenientCase{"1e", 1}, LenientCase{"1e+", 1},
+                    LenientCase{"1,5", 1}, LenientCase{"1.2.3", 1.2}, LenientCase{".", 0}, LenientCase{"-", 0},
+                    LenientCase{"--1", 0}, LenientCase{"5.", 5}, LenientCase{"1e999", kInfinite},
+                    LenientCase{"-1e999", -kInfinite}, LenientCase{"1e-999", 0}, LenientCase{"inf", 0},
+                    LenientCase{"nan", 0}, LenientCase{"0x10", 0}));
+
+TEST(LenientNumber, takesNumbersOfAnyLength) {
+  EXPECT_EQ(lenientNumber(std::string(400, '9')), kInfinite);
+  EXPECT_EQ(lenientNumber("0." + std::string(400, '0') + "1"), 0.0);
+  EXPECT_EQ(lenientNumber(std::string(400, '0') + "1"), 1.0);
+}
+
+TEST(WholeNumber, takesTheWholeTextOrNothing) {
+  EXPECT_EQ(wholeNumber(" 12 "), 12);
+  EXPECT_EQ(wholeNumber("-3"), -3);
+  EXPECT_FALSE(wholeNumber(""));
+  EXPECT_FALSE(wholeNumber("1.5"));
+  EXPECT_FALSE(wholeNumber("12a"));
+  EXPECT_FALSE(wholeNumber("99999999999999999999"));
+}
+
+TEST(GeneralNumber, givesTheShortestTextOfFifteenDigits) {
+  EXPECT_EQ(generalNumber(0.5), "0.5");
+  EXPECT_EQ(generalNumber(1234), "1234");
+  EXPECT_EQ(generalNumber(0.1 + 0.2), "0.3");
+  EXPECT_EQ(generalNumber(-0.0), "0");
+  EXPECT_EQ(generalNumber(1e20), "1E+20");
+  EXPECT_EQ(generalNumber(-1.5e-7), "-1.5E-07");
+}
+
+}  // namespace
+}  // namespace kestra
