@@ -8,7 +8,9 @@
 namespace kestra {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 // Gathers the characters of the number at the front of `text`, blanks left out, in the form that from_chars takes.
 std::string numberCharacters(std::string_view text) {

@@ -21,7 +21,9 @@ std::string joinPath(std::string_view directory, std::string_view name) {
   return path.append(name);
 }
 
-bool isAbsolutePath(std::string_view path) { return std::filesystem::path(path).is_absolute(); }
+bool isAbsolutePath(std::string_view path) {
+  return std::filesystem::path(path).is_absolute();
+}
 
 std::string absolutePath(std::string_view path, std::string_view directory) {
   std::string result = (std::filesystem::path(directory) / std::filesystem::path(path)).lexically_normal().string();

@@ -8,14 +8,14 @@
 namespace kestra {
 
 enum class FailureKind {
-  notFound,       // there is no such file or directory: a finding, often not a fault
-  exists,         // something of that name stands there already
-  denied,         // no permission, or a read-only file system
-  full,           // no room on the disk, or a quota is used up
-  wrongType,      // a directory where a file was meant, or a file where a directory was meant
-  invalidName,    // empty, too long, or with a character that no name may have
-  tooLarge,       // above the limit that the caller set
-  busy,           // held by another program
+  notFound,     // there is no such file or directory: a finding, often not a fault
+  exists,       // something of that name stands there already
+  denied,       // no permission, or a read-only file system
+  full,         // no room on the disk, or a quota is used up
+  wrongType,    // a directory where a file was meant, or a file where a directory was meant
+  invalidName,  // empty, too long, or with a character that no name may have
+  tooLarge,     // above the limit that the caller set
+  busy,         // held by another program
   other
 };
 

@@ -5,7 +5,9 @@
 namespace kestra {
 namespace {
 
-bool isContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
+bool isContinuation(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
 
 // Bytes of the character that starts at `at`.
 std::size_t charLength(std::string_view text, std::size_t at) {
@@ -25,8 +27,12 @@ bool isAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char upper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+char lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 // Byte position of character `count`, counted from byte `from`; the end when there are fewer.
 std::size_t advance(std::string_view text, std::size_t from, std::size_t count) {
@@ -71,6 +77,29 @@ std::string toLower(std::string_view text) {
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return upper(x) == upper(y); });
+}
+
+std::string utf8(char32_t character) {
+  const auto byte = [](char32_t value) { return static_cast<char>(static_cast<unsigned char>(value)); };
+  if (character < 0x80) return {byte(character)};
+  if (character < 0x800) return {byte(0xC0 | (character >> 6)), byte(0x80 | (character & 0x3F))};
+  if (character < 0x10000) {
+    return {byte(0xE0 | (character >> 12)), byte(0x80 | ((character >> 6) & 0x3F)), byte(0x80 | (character & 0x3F))};
+  }
+  return {byte(0xF0 | (character >> 18)), byte(0x80 | ((character >> 12) & 0x3F)),
+          byte(0x80 | ((character >> 6) & 0x3F)), byte(0x80 | (character & 0x3F))};
+}
+
+char32_t popCharacter(std::string_view& text) {
+  constexpr unsigned char kLeadBits[] = {0x7F, 0x7F, 0x1F, 0x0F, 0x07};
+  const std::size_t length = charLength(text, 0);
+  const auto lead = static_cast<unsigned char>(text.front());
+  char32_t character = length == 1 ? lead : static_cast<char32_t>(lead & kLeadBits[length]);
+  for (std::size_t i = 1; i < length; ++i) {
+    character = (character << 6) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+  }
+  text.remove_prefix(length);
+  return character;
 }
 
 }  // namespace kestra

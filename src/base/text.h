@@ -24,4 +24,10 @@ std::string toLower(std::string_view text);
 // Equal but for the case of ASCII letters.
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 
+// A character as UTF-8.
+std::string utf8(char32_t character);
+
+// The character at the front of a text that is not empty, taken off it; a stray byte is its own value.
+char32_t popCharacter(std::string_view& text);
+
 }  // namespace kestra

@@ -30,7 +30,10 @@ TEST(Columns, countFromOneAndStopAtTheEndOfTheLine) {
   EXPECT_EQ(columns("KESTRA    01/01/2009", 11, 10), "01/01/2009");
   EXPECT_EQ(columns("KESTRA", 1, 10), "KESTRA");
   EXPECT_EQ(columns("KESTRA", 7, 10), "");
-  EXPECT_EQ(columns("\xC3\xB6\xC3\xB6" "abc", 3, 2), "ab");
+  EXPECT_EQ(columns("\xC3\xB6\xC3\xB6"
+                    "abc",
+                    3, 2),
+            "ab");
 }
 
 struct PopCase {

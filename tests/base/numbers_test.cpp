@@ -20,15 +20,16 @@ TEST_P(LenientNumber, stopsAtTheFirstCharacterThatIsNoPartOfANumber) {
   EXPECT_EQ(lenientNumber(GetParam().text), GetParam().value) << '"' << GetParam().text << '"';
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, LenientNumber,
-    testing::Values(LenientCase{"1.5", 1.5}, LenientCase{"", 0}, LenientCase{"abc", 0}, LenientCase{"1.5ft", 1.5},
-                    LenientCase{" 12 34", 1234}, LenientCase{"\t7", 7}, LenientCase{"-.5", -0.5}, LenientCase{"+3", 3},
-                    LenientCase{"1e3", 1000}, LenientCase{"1D-2", 0.01}, LenientCase{"1e", 1}, LenientCase{"1e+", 1},
-                    LenientCase{"1,5", 1}, LenientCase{"1.2.3", 1.2}, LenientCase{".", 0}, LenientCase{"-", 0},
-                    LenientCase{"--1", 0}, LenientCase{"5.", 5}, LenientCase{"1e999", kInfinite},
-                    LenientCase{"-1e999", -kInfinite}, LenientCase{"1e-999", 0}, LenientCase{"inf", 0},
-                    LenientCase{"nan", 0}, LenientCase{"0x10", 0}));
+INSTANTIATE_TEST_SUITE_P(Texts, LenientNumber,
+                         testing::Values(LenientCase{"1.5", 1.5}, LenientCase{"", 0}, LenientCase{"abc", 0},
+                                         LenientCase{"1.5ft", 1.5}, LenientCase{" 12 34", 1234}, LenientCase{"\t7", 7},
+                                         LenientCase{"-.5", -0.5}, LenientCase{"+3", 3}, LenientCase{"1e3", 1000},
+                                         LenientCase{"1D-2", 0.01}, LenientCase{"1e", 1}, LenientCase{"1e+", 1},
+                                         LenientCase{"1,5", 1}, LenientCase{"1.2.3", 1.2}, LenientCase{".", 0},
+                                         LenientCase{"-", 0}, LenientCase{"--1", 0}, LenientCase{"5.", 5},
+                                         LenientCase{"1e999", kInfinite}, LenientCase{"-1e999", -kInfinite},
+                                         LenientCase{"1e-999", 0}, LenientCase{"inf", 0}, LenientCase{"nan", 0},
+                                         LenientCase{"0x10", 0}));
 
 TEST(LenientNumber, takesNumbersOfAnyLength) {
   EXPECT_EQ(lenientNumber(std::string(400, '9')), kInfinite);

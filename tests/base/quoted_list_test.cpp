@@ -29,7 +29,9 @@ TEST(QuotedListReader, keepsCommasAndLineEndsInsideQuotes) {
   EXPECT_EQ(valuesOf("\"a\" rest, b"), (Values{"a", "b"}));
 }
 
-TEST(QuotedLine, isReadBackAsItStands) { EXPECT_EQ(valuesOf(quotedLine("x, y")), (Values{"x, y"})); }
+TEST(QuotedLine, isReadBackAsItStands) {
+  EXPECT_EQ(valuesOf(quotedLine("x, y")), (Values{"x, y"}));
+}
 
 }  // namespace
 }  // namespace kestra

@@ -1,0 +1,269 @@
+#include "automation/control_verbs.h"
+
+#include "base/text.h"
+#include "controls/canvas_control.h"
+#include "controls/choices.h"
+#include "controls/directory_list.h"
+#include "controls/ranges.h"
+#include "controls/screen.h"
+#include "controls/simple_controls.h"
+#include "controls/table.h"
+#include "controls/text_box.h"
+
+namespace kestra {
+namespace {
+
+std::string placeOf(const Control& control) { return control.screen().name() + "." + control.name(); }
+
+[[noreturn]] void refuse(const Control& control, const std::string& why) {
+  throw RequestError(placeOf(control) + " " + why);
+}
+
+// The control as the class that its kind stands for.
+template <class C>
+C& as(Control& control) {
+  return static_cast<C&>(control);
+}
+template <class C>
+const C& as(const Control& control) {
+  return static_cast<const C&>(control);
+}
+
+template <class C, class AnyControl>
+auto& ofKind(AnyControl& control, ControlKind kind) {
+  if (control.kind() != kind) refuse(control, "is no " + std::string(nameOf(kind)));
+  return as<C>(control);
+}
+
+void describeText(const Control& control, Json& out) {
+  out["value"] = as<TextBox>(control).text();
+  out["maxLength"] = as<TextBox>(control).maxLength();
+}
+
+void describeChoice(const Control& control, Json& out) {
+  const auto& choice = as<ChoiceList>(control);
+  out["value"] = choice.text();
+  out["items"] = choice.items();
+  out["index"] = choice.index();
+}
+
+void describeTable(const Control& control, Json& out) {
+  const auto& table = as<Table>(control);
+  out["value"] = table.currentText();
+  out["rows"] = table.rows();
+  out["columns"] = table.columns();
+  out["fixedRows"] = table.fixedRows();
+  out["fixedColumns"] = table.fixedColumns();
+  out["row"] = table.cursor().row;
+  out["column"] = table.cursor().column;
+}
+
+void describeRange(const Control& control, Json& out) {
+  const auto& range = as<Range>(control);
+  out["value"] = range.value();
+  out["min"] = range.minimum();
+  out["max"] = range.maximum();
+}
+
+void describeKind(const Control& control, Json& out) {
+  switch (control.kind()) {
+    case ControlKind::text: return describeText(control, out);
+    case ControlKind::option: out["value"] = as<OptionButton>(control).selected(); return;
+    case ControlKind::check: out["value"] = as<CheckBox>(control).checked(); return;
+    case ControlKind::combo:
+    case ControlKind::list: return describeChoice(control, out);
+    case ControlKind::menu: out["checked"] = as<Menu>(control).checked(); return;
+    case ControlKind::table: return describeTable(control, out);
+    case ControlKind::tabs:
+      out["value"] = as<Tabs>(control).index();
+      out["captions"] = as<Tabs>(control).captions();
+      return;
+    case ControlKind::slider:
+    case ControlKind::gauge: return describeRange(control, out);
+    case ControlKind::canvas: out["scale"] = as<CanvasControl>(control).scale(); return;
+    case ControlKind::directory: out["value"] = as<DirectoryList>(control).path(); return;
+    case ControlKind::button:
+    case ControlKind::label:
+    case ControlKind::frame: return;
+  }
+}
+
+void setOption(Control& control, const Json& value) {
+  if (!asBoolean(value, placeOf(control))) refuse(control, "is cleared by selecting another option");
+  as<OptionButton>(control).userSelect();
+}
+
+void setChoice(Control& control, const Json& value) {
+  auto& choice = as<ChoiceList>(control);
+  const bool byIndex = value.is_object();
+  const bool found = byIndex ? choice.userSelect(Fields(value).integer("index"))
+                             : choice.userSelect(std::string_view(asText(value, placeOf(control))));
+  if (!found) refuse(control, "has no entry " + oneLine(value));
+}
+
+void setDirectory(Control& control, const Json& value) {
+  const std::string& path = asText(value, placeOf(control));
+  if (!as<DirectoryList>(control).userChoose(path)) refuse(control, "cannot choose " + path + ": no such directory");
+}
+
+void setTabs(Control& control, const Json& value) {
+  if (!as<Tabs>(control).userSelect(asInteger(value, placeOf(control)))) refuse(control, "has no tab " + oneLine(value));
+}
+
+Key keyOf(const Json& value) {
+  if (!value.is_object()) throw RequestError("keys must be texts or {\"key\": NAME}");
+  return {0, Fields(value).text("key")};
+}
+
+void typeText(Control& control, std::string_view text) {
+  while (!text.empty()) control.userKey({popCharacter(text), {}});
+}
+
+}  // namespace
+
+Json describeControl(const Control& control) {
+  Json out = {{"kind", nameOf(control.kind())},
+              {"value", nullptr},
+              {"caption", control.caption()},
+              {"visible", control.visible()},
+              {"enabled", control.enabled()}};
+  describeKind(control, out);
+  return out;
+}
+
+void setControl(Control& control, const Json& value) {
+  control.userFocus();
+  switch (control.kind()) {
+    case ControlKind::text: return as<TextBox>(control).userReplace(asText(value, placeOf(control)));
+    case ControlKind::option: return setOption(control, value);
+    case ControlKind::check: return as<CheckBox>(control).userSet(asBoolean(value, placeOf(control)));
+    case ControlKind::combo:
+    case ControlKind::list: return setChoice(control, value);
+    case ControlKind::slider: return as<Slider>(control).userMove(asNumber(value, placeOf(control)));
+    case ControlKind::tabs: return setTabs(control, value);
+    case ControlKind::directory: return setDirectory(control, value);
+    default: refuse(control, "cannot be set: it is a " + std::string(nameOf(control.kind())));
+  }
+}
+
+void clickControl(Control& control) {
+  if (!control.visible()) refuse(control, "is hidden");
+  if (!control.enabled()) refuse(control, "is disabled");
+  switch (control.kind()) {
+    case ControlKind::button:
+    case ControlKind::menu: {
+      auto& command = as<Command>(control);
+      if (!command.hasAction()) refuse(control, "has no action");
+      if (control.kind() == ControlKind::button) control.userFocus();
+      return command.click();
+    }
+    case ControlKind::option: return as<OptionButton>(control).userSelect();
+    case ControlKind::check: return as<CheckBox>(control).userSet(!as<CheckBox>(control).checked());
+    default: refuse(control, "cannot be clicked: it is a " + std::string(nameOf(control.kind())));
+  }
+}
+
+void doubleClickControl(Control& control) {
+  switch (control.kind()) {
+    case ControlKind::combo:
+    case ControlKind::list: return as<ChoiceList>(control).userDoubleClick();
+    case ControlKind::table: return as<Table>(control).userDoubleClick();
+    case ControlKind::canvas: return as<CanvasControl>(control).userMouse({MouseEvent::Type::doubleClick, 1, 0, 0});
+    default: refuse(control, "cannot be double-clicked: it is a " + std::string(nameOf(control.kind())));
+  }
+}
+
+void typeKeys(Control& control, const Json& keys) {
+  control.userFocus();
+  for (const Json& item : keys.is_array() ? keys : Json::array({keys})) {
+    if (item.is_string()) {
+      typeText(control, item.get_ref<const std::string&>());
+    } else {
+      control.userKey(keyOf(item));
+    }
+  }
+}
+
+Json tableCells(const Control& control, const Fields& request) {
+  const auto& table = ofKind<Table>(control, ControlKind::table);
+  const int row = request.integer("row", 0);
+  const int column = request.integer("column", 0);
+  const bool block = request.has("row") || request.has("column");
+  const int rows = request.integer("rows", block ? 1 : table.rows());
+  const int columns = request.integer("columns", block ? 1 : table.columns());
+  const bool inside = row >= 0 && column >= 0 && rows >= 0 && columns >= 0 && rows <= table.rows() - row &&
+                      columns <= table.columns() - column;
+  if (!inside) refuse(control, "does not hold this block");
+  Json result = Json::array();
+  for (int r = row; r < row + rows; ++r) {
+    Json line = Json::array();
+    for (int c = column; c < column + columns; ++c) line.push_back(table.cell(r, c));
+    result.push_back(std::move(line));
+  }
+  return result;
+}
+
+void setTableCells(Control& control, const Fields& request) {
+  auto& table = ofKind<Table>(control, ControlKind::table);
+  const int row = request.integer("row");
+  const int column = request.integer("column");
+  const Json& values = request.list("values");
+  int r = row;
+  for (const Json& line : values) {
+    const int width = static_cast<int>(asList(line, "a row of \"values\"").size());
+    if (width > 0 && !(table.holds({r, column}) && table.holds({r, column + width - 1}))) {
+      refuse(control, "does not hold this block");
+    }
+    for (const Json& cell : line) asText(cell, "a cell of \"values\"");
+    ++r;
+  }
+  r = row;
+  for (const Json& line : values) {
+    int c = column;
+    for (const Json& cell : line) table.userSetCell(r, c++, cell.get<std::string>());
+    ++r;
+  }
+  table.userEdited();
+}
+
+void setTableCursor(Control& control, const Fields& request) {
+  auto& table = ofKind<Table>(control, ControlKind::table);
+  const CellPosition from = {request.integer("row"), request.integer("column")};
+  const CellPosition to = {request.integer("toRow", from.row), request.integer("toColumn", from.column)};
+  if (!table.holds(from) || !table.holds(to)) refuse(control, "does not hold this cell");
+  control.userFocus();
+  table.userSelect(from, to);
+}
+
+void useMouse(Control& control, const Fields& request) {
+  auto& canvas = ofKind<CanvasControl>(control, ControlKind::canvas);
+  const std::string& name = request.text("event");
+  MouseEvent event;
+  if (name == "down") {
+    event.type = MouseEvent::Type::down;
+  } else if (name == "up") {
+    event.type = MouseEvent::Type::up;
+  } else if (name == "dblclick") {
+    event.type = MouseEvent::Type::doubleClick;
+  } else if (name != "move") {
+    throw RequestError("field \"event\" must be down, move, up or dblclick");
+  }
+  event.button = request.integer("button", 0);
+  event.x = request.number("x");
+  event.y = request.number("y");
+  canvas.userMouse(event);
+}
+
+Json canvasCalls(const Control& control) {
+  Json calls = Json::array();
+  for (const CanvasCall& call : ofKind<CanvasControl>(control, ControlKind::canvas).calls()) {
+    Json entry = Json::array({call.name});
+    for (const auto& argument : call.arguments) {
+      std::visit([&entry](const auto& value) { entry.push_back(value); }, argument);
+    }
+    calls.push_back(std::move(entry));
+  }
+  return calls;
+}
+
+}  // namespace kestra

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+#include "app/application.h"
+#include "automation/conversation.h"
+#include "controls/canvas_control.h"
+
+namespace kestra {
+
+// Renders a canvas into a file, the form by the file's extension.
+class CanvasRenderer {
+ public:
+  virtual ~CanvasRenderer() = default;
+  virtual Status render(const CanvasControl& canvas, const std::string& file, int width, int height) = 0;
+};
+
+// Carries out requests, one JSON object a line, on an application, and answers each with one line.
+class Driver : public ModalLoop {
+ public:
+  // `conversation` holds the message boxes, dialogs and beeper that the application was made with. Without a renderer
+  // no picture can be made.
+  Driver(Application& application, Conversation& conversation, CanvasRenderer* renderer = nullptr);
+  ~Driver() override;
+  Driver(const Driver&) = delete;
+  Driver& operator=(const Driver&) = delete;
+
+  // Reads lines until the end of the input, "quit", or the end of the application; lines without anything but blanks are
+  // passed over, those above kLongestLine are answered with an error.
+  void run(std::istream& in, std::ostream& out);
+
+  std::string answerTo(std::string_view line);  // without line end
+  bool finished() const { return quit_ || application_.shell.ended(); }
+
+  void run(Screen& screen) override;  // a modal screen, by the requests of the next answer
+
+  static constexpr std::size_t kLongestLine = 64U << 20U;  // bytes
+
+ private:
+  Json answer(const Json& request);
+  Json carryOut(const Json& request);
+  Json control(const std::string& verb, const Fields& request);
+  Json setClipboard(const Fields& request);
+  Json picture(const Control& control, const Fields& request);
+  Screen& screenOf(const Fields& request);
+  Control& controlOf(const Fields& request);
+
+  Application& application_;
+  Conversation& conversation_;
+  CanvasRenderer* renderer_;
+  bool quit_ = false;
+};
+
+}  // namespace kestra

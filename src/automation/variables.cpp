@@ -1,0 +1,105 @@
+#include "automation/variables.h"
+
+#include <functional>
+#include <map>
+
+namespace kestra {
+namespace {
+
+using Reader = std::function<Json(const Application&)>;
+
+Json windowFlags(const ApplicationState& state) {
+  Json flags = Json::array();
+  for (int slot = kFirstSlot; slot <= kLastSlot; ++slot) {
+    flags.push_back(state.windowOpen[static_cast<std::size_t>(slot)]);
+  }
+  return flags;
+}
+
+Json focusOf(const Application& application) {
+  const Control* focus = application.host.focus();
+  if (focus == nullptr) return nullptr;
+  return {{"screen", focus->screen().name()}, {"control", focus->name()}};
+}
+
+template <class Member>
+Reader fromState(Member member) {
+  return [member](const Application& application) -> Json { return application.state.*member; };
+}
+
+Json titleCounts(const Application& application) {
+  const auto& titles = application.shell.catalogues.fieldTitles;
+  return {titles[0].size(), titles[1].size()};
+}
+
+const std::map<std::string, Reader>& readers() {
+  using State = ApplicationState;
+  static const std::map<std::string, Reader> kReaders = {
+      {"projectDir", fromState(&State::projectDir)},
+      {"currentFile", fromState(&State::currentFile)},
+      {"fileDirty", fromState(&State::fileDirty)},
+      {"fileIsNew", fromState(&State::fileIsNew)},
+      {"fileHasName", fromState(&State::fileHasName)},
+      {"bExiting", fromState(&State::bExiting)},
+      {"projectReadOnly", fromState(&State::projectReadOnly)},
+      {"solverPath", fromState(&State::solverPath)},
+      {"crlf", fromState(&State::crlf)},
+      {"numAuxSpillways", fromState(&State::numAuxSpillways)},
+      {"curAuxSpillway", fromState(&State::curAuxSpillway)},
+      {"currentSpillwayNumber", fromState(&State::currentSpillwayNumber)},
+      {"totalInstances", fromState(&State::totalInstances)},
+      {"lhsSeed", fromState(&State::lhsSeed)},
+      {"bRandomSample", fromState(&State::bRandomSample)},
+      {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
+      {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
+      {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},
+      {"ComboList", [](const Application& a) -> Json { return a.shell.lines.ComboList; }},
+      {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
+      {"fieldTitles", [](const Application& a) -> Json { return a.shell.catalogues.fieldTitles; }},
+      {"fieldCount", titleCounts},
+  };
+  return kReaders;
+}
+
+// A property of a screen: "frmTopScreen.Caption", "Width", "Height" (twips), "BackColor".
+Json screenProperty(const Application& application, const std::string& name) {
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string::npos) return nullptr;
+  const Screen* screen = application.host.find(name.substr(0, dot));
+  if (screen == nullptr) return nullptr;
+  const std::string property = name.substr(dot + 1);
+  if (property == "Caption") return screen->title();
+  if (property == "Width") return screen->width();
+  if (property == "Height") return screen->height();
+  if (property == "BackColor") return screen->backColor();
+  return nullptr;
+}
+
+}  // namespace
+
+Json readVariable(const Application& application, const std::string& name) {
+  const auto at = readers().find(name);
+  if (at != readers().end()) return at->second(application);
+  Json property = screenProperty(application, name);
+  if (property.is_null()) throw RequestError("no variable named \"" + name + "\"");
+  return property;
+}
+
+Json describeState(const Application& application) {
+  Json state = Json::object();
+  for (const char* name : {"projectDir", "currentFile", "fileDirty", "fileIsNew", "fileHasName", "bExiting",
+                           "windowOpen", "numAuxSpillways", "curAuxSpillway", "totalInstances", "lhsSeed",
+                           "bRandomSample", "recentProjects"}) {
+    state[name] = readVariable(application, name);
+  }
+  state["visible"] = Json::array();
+  for (const Screen* screen : application.host.shown()) state["visible"].push_back(screen->name());
+  state["titles"] = Json::object();
+  for (const Screen* screen : application.host.screens()) {
+    if (screen->loaded()) state["titles"][screen->name()] = screen->title();
+  }
+  state["focus"] = focusOf(application);
+  return state;
+}
+
+}  // namespace kestra

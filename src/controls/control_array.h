@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <utility>
+
+#include "base/runtime_fault.h"
+#include "controls/screen.h"
+
+namespace kestra {
+
+// Name of a member of a control array: "optNone(0)".
+inline std::string memberName(const std::string& name, int index) { return name + "(" + std::to_string(index) + ")"; }
+
+// Controls under one name with an index, counted from the array's first index.
+template <class C>
+class ControlArray {
+ public:
+  // Members first to first + count - 1, each made with the arguments behind its name.
+  template <class... Args>
+  ControlArray(Screen& screen, const std::string& name, int first, int count, const Args&... args) : first_(first) {
+    for (int i = 0; i < count; ++i) members_.emplace_back(screen, memberName(name, first + i), args...);
+  }
+
+  C& operator()(int index) { return members_[at(index)]; }
+  const C& operator()(int index) const { return members_[at(index)]; }
+  int first() const { return first_; }
+  int last() const { return first_ + static_cast<int>(members_.size()) - 1; }
+  auto begin() { return members_.begin(); }
+  auto end() { return members_.end(); }
+
+ private:
+  std::size_t at(int index) const {
+    if (index < first_ || index > last()) throw RuntimeFault("subscript out of range");
+    return static_cast<std::size_t>(index - first_);
+  }
+
+  int first_;
+  std::deque<C> members_;
+};
+
+}  // namespace kestra

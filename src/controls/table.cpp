@@ -1,0 +1,94 @@
+#include "controls/table.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kestra {
+
+Table::Table(Screen& screen, std::string name, Size size)
+    : Control(screen, std::move(name), ControlKind::table),
+      size_(size),
+      cells_(static_cast<std::size_t>(size.rows) * static_cast<std::size_t>(size.columns)),
+      columnWidths_(static_cast<std::size_t>(size.columns)),
+      rowHeights_(static_cast<std::size_t>(size.rows)),
+      centred_(static_cast<std::size_t>(size.columns)),
+      cursor_{size.fixedRows, size.fixedColumns},
+      corner_(cursor_) {}
+
+bool Table::holds(CellPosition at) const {
+  return at.row >= 0 && at.row < size_.rows && at.column >= 0 && at.column < size_.columns;
+}
+
+std::size_t Table::indexOf(int row, int column) const {
+  return static_cast<std::size_t>(row) * static_cast<std::size_t>(size_.columns) + static_cast<std::size_t>(column);
+}
+
+const std::string& Table::cell(int row, int column) const {
+  static const std::string kEmpty;
+  return holds({row, column}) ? cells_[indexOf(row, column)] : kEmpty;
+}
+
+void Table::setCell(int row, int column, std::string text) {
+  if (!holds({row, column})) return;
+  cells_[indexOf(row, column)] = std::move(text);
+  changed(Property::cells);
+}
+
+void Table::clearData() {
+  for (int row = size_.fixedRows; row < size_.rows; ++row) {
+    for (int column = size_.fixedColumns; column < size_.columns; ++column) cells_[indexOf(row, column)].clear();
+  }
+  changed(Property::cells);
+  setCursor({size_.fixedRows, size_.fixedColumns});
+}
+
+void Table::setCursor(CellPosition at) { setSelection(at, at); }
+
+void Table::setSelection(CellPosition from, CellPosition to) {
+  if (!holds(from) || !holds(to)) return;
+  cursor_ = from;
+  corner_ = to;
+  changed(Property::cursor);
+}
+
+CellPosition Table::firstSelected() const {
+  return {std::min(cursor_.row, corner_.row), std::min(cursor_.column, corner_.column)};
+}
+
+CellPosition Table::lastSelected() const {
+  return {std::max(cursor_.row, corner_.row), std::max(cursor_.column, corner_.column)};
+}
+
+void Table::userSetCell(int row, int column, std::string text) { setCell(row, column, std::move(text)); }
+
+void Table::userEdited() {
+  edited();
+  if (onEdited) onEdited();
+}
+
+void Table::userSelect(CellPosition from, CellPosition to) {
+  setSelection(from, to);
+  if (onCursorMoved) onCursorMoved();
+}
+
+void Table::userKey(const Key& key) {
+  if (onKeyPress) onKeyPress(key);
+}
+
+void Table::userDoubleClick() {
+  if (onDoubleClick) onDoubleClick();
+}
+
+void Table::keepDesign() {
+  Control::keepDesign();
+  designCells_ = cells_;
+}
+
+void Table::restoreDesign() {
+  Control::restoreDesign();
+  cells_ = designCells_;
+  changed(Property::cells);
+  setCursor({size_.fixedRows, size_.fixedColumns});
+}
+
+}  // namespace kestra

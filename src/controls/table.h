@@ -1,0 +1,85 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace kestra {
+
+struct CellPosition {
+  int row = 0;
+  int column = 0;
+  bool operator==(const CellPosition&) const = default;
+};
+
+// A table of texts of a fixed size, its first rows and columns being headings. Rows and columns count from 0, the
+// headings included. A position outside the table reads as empty and is not written.
+class Table : public Control {
+ public:
+  struct Size {
+    int rows = 2;
+    int columns = 2;
+    int fixedRows = 1;
+    int fixedColumns = 1;
+  };
+
+  Table(Screen& screen, std::string name, Size size);
+
+  int rows() const { return size_.rows; }
+  int columns() const { return size_.columns; }
+  int fixedRows() const { return size_.fixedRows; }
+  int fixedColumns() const { return size_.fixedColumns; }
+  bool holds(CellPosition at) const;
+
+  const std::string& cell(int row, int column) const;
+  void setCell(int row, int column, std::string text);
+  void clearData();  // blanks all cells but the headings, the cursor on the first of them
+
+  CellPosition cursor() const { return cursor_; }
+  CellPosition corner() const { return corner_; }  // the other end of the selection; the cursor when one cell is selected
+  void setCursor(CellPosition at);                 // selects that cell alone; no effect outside the table
+  void setSelection(CellPosition from, CellPosition to);  // the cursor at `from`
+  CellPosition firstSelected() const;              // upper left and lower right cell of the selection
+  CellPosition lastSelected() const;
+  const std::string& currentText() const { return cell(cursor_.row, cursor_.column); }
+  void setCurrentText(std::string text) { setCell(cursor_.row, cursor_.column, std::move(text)); }
+
+  // Widths of columns and heights of rows, in twips (1/1440 inch), and whether a column is centred; 0: as the window likes.
+  void setColumnWidth(int column, int twips) { columnWidths_[static_cast<std::size_t>(column)] = twips; }
+  int columnWidth(int column) const { return columnWidths_[static_cast<std::size_t>(column)]; }
+  void setRowHeight(int row, int twips) { rowHeights_[static_cast<std::size_t>(row)] = twips; }
+  int rowHeight(int row) const { return rowHeights_[static_cast<std::size_t>(row)]; }
+  void setCentred(int column, bool centred) { centred_[static_cast<std::size_t>(column)] = centred; }
+  bool centred(int column) const { return centred_[static_cast<std::size_t>(column)]; }
+
+  void userSetCell(int row, int column, std::string text);  // counts as an edit; the caller calls userEdited at the end
+  void userEdited();
+  void userSelect(CellPosition from, CellPosition to);  // by mouse or arrow keys
+  void userKey(const Key& key) override;
+  void userDoubleClick();
+
+  void keepDesign() override;
+  void restoreDesign() override;
+
+  std::function<void(const Key&)> onKeyPress;
+  std::function<void()> onEdited;       // cells were written by the user
+  std::function<void()> onCursorMoved;  // by the user
+  std::function<void()> onDoubleClick;
+
+ private:
+  std::size_t indexOf(int row, int column) const;
+
+  Size size_;
+  std::vector<std::string> cells_;
+  std::vector<std::string> designCells_;
+  std::vector<int> columnWidths_;
+  std::vector<int> rowHeights_;
+  std::vector<bool> centred_;
+  CellPosition cursor_;
+  CellPosition corner_;
+};
+
+}  // namespace kestra

@@ -1,0 +1,45 @@
+#include "controls/text_box.h"
+
+#include <utility>
+
+#include "base/text.h"
+
+namespace kestra {
+
+TextBox::TextBox(Screen& screen, std::string name, std::string text, int maxLength)
+    : Control(screen, std::move(name), ControlKind::text), text_(std::move(text)), maxLength_(maxLength) {}
+
+void TextBox::setText(std::string text) {
+  text_ = std::move(text);
+  changed(Property::value);
+}
+
+void TextBox::userReplace(std::string_view text) {
+  if (locked_) return;
+  setText(std::string(maxLength_ > 0 ? charsFrom(text, 0, static_cast<std::size_t>(maxLength_)) : text));
+  edited();
+  if (onChange) onChange();
+}
+
+void TextBox::userKey(const Key& key) {
+  if (onKeyPress && !onKeyPress(key)) return;
+  if (key.character == kBackspace) {
+    if (!text_.empty()) userReplace(charsFrom(text_, 0, charCount(text_) - 1));
+  } else if (key.character == kEnter) {
+    if (multiLine_) userReplace(text_ + "\r\n");
+  } else if (key.character >= U' ') {
+    userReplace(text_ + utf8(key.character));
+  }
+}
+
+void TextBox::keepDesign() {
+  Control::keepDesign();
+  designText_ = text_;
+}
+
+void TextBox::restoreDesign() {
+  Control::restoreDesign();
+  setText(designText_);
+}
+
+}  // namespace kestra

@@ -1,0 +1,14 @@
+#include "shell/application_state.h"
+
+#include "base/runtime_fault.h"
+
+namespace kestra {
+
+bool& ApplicationState::window(int slot) {
+  if (slot < kFirstSlot || slot > kLastSlot) {
+    throw RuntimeFault("window slot " + std::to_string(slot) + " is outside 1 to 6");
+  }
+  return windowOpen[static_cast<std::size_t>(slot)];
+}
+
+}  // namespace kestra

@@ -1,0 +1,60 @@
+#include "shell/frm_kestra.h"
+
+namespace kestra {
+namespace {
+
+constexpr int kSlot = static_cast<int>(WindowSlot::input);
+
+}  // namespace
+
+frmKestra::frmKestra(ScreenContext& context, frmTopScreen& top)
+    : Screen("frmKestra", "Kestra B - Input Interface"), context_(context), top_(top) {
+  for (Menu* command : {&mnuNew, &mnuOpen, &mnuSaveAs, &mnuImport, &mnuBuildFile, &mnuRebuildAll, &mnuSpecifySum}) {
+    command->setEnabled(false);
+  }
+  for (Menu& entry : mnuWindowsArray) entry.setVisible(false);
+  mnuContents.onClick = [this] { context_.ports.help.showTopic(""); };
+  mnuExit.onClick = [this] {
+    if (onExit) onExit();
+  };
+}
+
+void frmKestra::takeProject() {
+  for (Menu* command : {&mnuNew, &mnuOpen, &mnuImport, &mnuBuildFile, &mnuRebuildAll, &mnuSpecifySum}) {
+    command->setEnabled(true);
+  }
+  mnuSaveAs.setEnabled(false);
+  setTitle("Kestra B - Input Interface");
+}
+
+void frmKestra::takeFile(const std::string& path) {
+  mnuSaveAs.setEnabled(true);
+  setTitle("Kestra B ( " + path + " )");
+}
+
+void frmKestra::load() {
+  context_.state.crlf = kCrLf;
+  context_.state.fileIsNew = false;
+  top_.windows().AddData(kSlot);
+}
+
+void frmKestra::activate() {
+  mnuSaveAs.setEnabled(context_.state.fileIsNew || context_.state.fileHasName);
+  top_.mnuFile.setVisible(false);
+  top_.mnuHelp.setVisible(false);
+}
+
+void frmKestra::unload() {
+  top_.windows().RemoveData(kSlot);
+  top_.mnuFile.setVisible(true);
+  top_.mnuHelp.setVisible(true);
+}
+
+// Closing the window by its frame is the Exit command.
+bool frmKestra::queryUnload(CloseReason reason, bool bExiting) {
+  if (bExiting || reason == CloseReason::program) return true;
+  mnuExit.click();
+  return false;
+}
+
+}  // namespace kestra

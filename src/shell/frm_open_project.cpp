@@ -1,0 +1,12 @@
+#include "shell/project_screens.h"
+
+namespace kestra {
+
+frmOpenProject::frmOpenProject(ScreenContext& context, Projects& projects)
+    : ProjectPicker(context, "frmOpenProject", "Open Project") {
+  cmdOK.onClick = [this, &projects] {
+    if (projects.open(directory(), "This is not a valid QUIL project directory!")) done();
+  };
+}
+
+}  // namespace kestra

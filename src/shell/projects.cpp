@@ -1,0 +1,132 @@
+#include "shell/projects.h"
+
+#include <array>
+
+#include "base/paths.h"
+#include "shell/project_directory.h"
+
+namespace kestra {
+namespace {
+
+constexpr const char* kOpenTitle = "Open Project";
+constexpr const char* kNoProject = "This is not a valid QUIL project directory!";
+constexpr const char* kNoRecentProject = "This is not a valid Kestra B project directory!";
+constexpr const char* kCannotEnter = "Unable to open project directory!";
+
+constexpr std::array<const char*, 23> kUnloadOrder = {
+    "frmAuxRatingTable",  "frmAuxSpillwayProfile", "frmAuxSpillways",       "frmDamSurface",     "frmDist",
+    "frmEditor",          "frmErrorTable",         "frmHeadcut",            "frmHeadcutGraph",   "frmHydroGraph",
+    "frmHydrographData",  "frmMaterialGraph",      "frmOutput",             "frmOutputGraph",    "frmProjectInformation",
+    "frmPSConduit",       "frmPSRatingTable",      "frmPSType",             "frmStructureTable", "frmSummaryGraphics",
+    "frmSummaryTable",    "frmUpdateColors",       "Properties"};
+
+void warn(ScreenContext& context, const std::string& text) {
+  context.ports.boxes.tell(kOpenTitle, text, BoxIcon::warning);
+}
+
+std::string openFrameTitle(const std::string& directory) { return "Kestra B [Project  " + directory + "]"; }
+
+}  // namespace
+
+void UnloadAllScreens(ScreenContext& context) {
+  context.state.bExiting = true;
+  for (const char* name : kUnloadOrder) {
+    if (Screen* screen = context.host.find(name)) context.host.unload(*screen);
+  }
+  context.state.bExiting = false;
+}
+
+void Projects::enter(const std::string& directory, const std::string& frameTitle) {
+  ApplicationState& state = context_.state;
+  closeWindows();
+  state.projectDir = directory;
+  hold(directory);
+  state.bExiting = true;
+  top_.setTitle(frameTitle);
+  context_.host.show(input_);
+  input_.takeProject();
+  top_.windows().LoadOrUnload();
+  top_.UpdateRecentProjects(directory);
+  state.bExiting = false;
+}
+
+bool Projects::open(const std::string& directory, const std::string& notAProject) {
+  FileSystem& files = context_.ports.files;
+  const ProjectCheck check = checkProject(files, directory);
+  if (check != ProjectCheck::project) {
+    warn(context_, check == ProjectCheck::notAProject ? notAProject : kCannotEnter);
+    return false;
+  }
+  if (isOpen(directory)) {
+    warn(context_, "This project is already open.");
+    return false;
+  }
+  if (!files.changeDirectory(directory)) {
+    warn(context_, kCannotEnter);
+    return false;
+  }
+  enter(directory, openFrameTitle(directory));
+  return true;
+}
+
+void Projects::openRecent(const std::string& directory) {
+  if (!open(directory, kNoRecentProject) && !isOpen(directory)) top_.RemoveRecentProject(directory);
+}
+
+bool Projects::openFile(const std::string& path) {
+  const std::string directory(directoryOf(path));
+  if (!open(directory, kNoProject)) return false;
+  context_.state.currentFile = path;
+  context_.state.fileHasName = true;
+  input_.takeFile(path);
+  top_.windows().FindFormToBuildItems();
+  return true;
+}
+
+void Projects::leave() {
+  closeWindows();
+  release();
+  top_.setTitle("Kestra B");
+}
+
+void Projects::release() {
+  lock_.reset();
+  context_.state.projectReadOnly = false;
+}
+
+bool Projects::isOpen(const std::string& directory) const {
+  const std::string& open = context_.state.projectDir;
+  if (open.empty()) return false;
+  if (open == directory) return true;
+  const auto here = context_.ports.files.canonical(open);
+  const auto there = context_.ports.files.canonical(directory);
+  return here && there && here.value() == there.value();
+}
+
+// Closes all windows of the project and forgets its file.
+void Projects::closeWindows() {
+  ApplicationState& state = context_.state;
+  UnloadAllScreens(context_);
+  state.bExiting = true;
+  top_.windows().LoadOrUnload();
+  context_.host.unload(input_);
+  state.bExiting = false;
+  state.projectDir.clear();
+  state.currentFile.clear();
+  state.fileDirty = state.fileIsNew = state.fileHasName = false;
+  state.numAuxSpillways = state.curAuxSpillway = 0;
+}
+
+void Projects::hold(const std::string& directory) {
+  release();
+  auto lock = lockProject(context_.ports.files, directory);
+  if (lock) {
+    lock_ = std::move(lock).value();
+  } else if (lock.failedAs(FailureKind::busy)) {
+    context_.state.projectReadOnly = true;
+    warn(context_, "This project is open in " + lock.failure().reason +
+                       ". You can look at it here, but nothing in it can be changed.");
+  }
+}
+
+}  // namespace kestra

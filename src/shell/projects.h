@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "screens/screen_context.h"
+#include "shell/frm_kestra.h"
+#include "shell/frm_top_screen.h"
+
+namespace kestra {
+
+// Unloads every screen but the frame and the input window, so that each comes back with its design defaults. No screen
+// asks anything meanwhile.
+void UnloadAllScreens(ScreenContext& context);
+
+// The one open project: entering it, leaving it, and holding it against other programs.
+class Projects {
+ public:
+  Projects(ScreenContext& context, frmTopScreen& top, frmKestra& input) : context_(context), top_(top), input_(input) {}
+
+  // Opens the project directory under the given title of the frame. It becomes the current directory. Another program
+  // that has it is told of in a box, and the project is then open for looking only.
+  void enter(const std::string& directory, const std::string& frameTitle);
+  // The same on behalf of a person: a directory that is no project, or the one already open, is answered with a warning
+  // under "Open Project". `notAProject` is the text for the first; false when the project was not opened.
+  bool open(const std::string& directory, const std::string& notAProject);
+  void openRecent(const std::string& directory);  // a failing one is taken off the recent list
+  // Opens the project in which a control file stands and takes the file as the open one; false, after a warning, when
+  // its directory is no project.
+  bool openFile(const std::string& path);
+  void leave();    // closes the project's windows: no project is open
+  void release();  // lets other programs have it
+
+  bool isOpen(const std::string& directory) const;  // whatever links lead there
+
+ private:
+  void closeWindows();
+  void hold(const std::string& directory);
+
+  ScreenContext& context_;
+  frmTopScreen& top_;
+  frmKestra& input_;
+  std::unique_ptr<FileLock> lock_;
+};
+
+}  // namespace kestra

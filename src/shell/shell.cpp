@@ -1,0 +1,80 @@
+#include "shell/shell.h"
+
+#include <utility>
+
+#include "base/paths.h"
+
+namespace kestra {
+namespace {
+
+constexpr const char* kAbout =
+    "Kestra B\r\n\r\nOvertopping and breach of earth embankment dams, with the erosion of their auxiliary spillways."
+    "\r\n\r\nLicensed under the Apache License, Version 2.0.";
+constexpr const char* kDisclaimer =
+    "Kestra B is an aid for engineers. It is provided \"as is\", without warranties or conditions of any kind. Its "
+    "results rest on the data that were entered and on simplified methods; whoever uses them for a decision about a dam "
+    "is responsible for checking that the data, the methods and the results are fit for it.";
+
+}  // namespace
+
+Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
+    : topScreen(context, applicationDirectory),
+      inputWindow(context, topScreen),
+      projects(context, topScreen, inputWindow),
+      newProject(context, projects),
+      openProject(context, projects),
+      deleteProject(context, projects, topScreen, applicationDirectory),
+      about("frmAbout", "About Kestra B", kAbout),
+      disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
+      context_(context),
+      applicationDirectory_(applicationDirectory) {
+  ScreenHost& host = context_.host;
+  const auto shows = [&host](Menu& command, Screen& screen) { command.onClick = [&host, &screen] { host.show(screen); }; };
+  shows(topScreen.mnuNewProject, newProject);
+  shows(topScreen.mnuOpenProject, openProject);
+  shows(topScreen.mnuDeleteProject, deleteProject);
+  shows(topScreen.mnuAboutTorve, about);
+  shows(topScreen.mnuDisclaimer, disclaimer);
+  shows(inputWindow.mnuDisclaimer, disclaimer);
+  for (int k = 1; k <= RecentProjects::kMost; ++k) {
+    topScreen.mnuRecentProject(k).onClick = [this, k] {
+      projects.openRecent(topScreen.recent().paths()[static_cast<std::size_t>(k - 1)]);
+    };
+  }
+  topScreen.onEnd = [this] { end(); };
+  inputWindow.onExit = [this] { projects.leave(); };
+  topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
+  host.onShown = [this](Screen& screen) {
+    topScreen.windows().shown(screen);
+    topScreen.windows().FindFormToBuildItems();
+  };
+  for (Screen* screen : std::initializer_list<Screen*>{&topScreen, &inputWindow, &newProject, &openProject,
+                                                       &deleteProject, &about, &disclaimer}) {
+    host.enter(*screen);
+  }
+}
+
+void Shell::startUp(const std::string& commandLine) {
+  topScreen.startUp([this] {
+    loadCatalogues();
+    lines.InitColors(context_.ports.settings, context_.ports.entropy);
+    lines.InitLines(context_.ports.settings);
+    return lines.ColorList[0];
+  });
+  context_.host.show(topScreen);
+  if (commandLine.size() >= 2) openCommandLine(commandLine);
+}
+
+void Shell::openCommandLine(std::string path) {
+  if (path.front() == '"') path = path.substr(1, path.size() - 2);
+  if (!projects.openFile(absolutePath(path, context_.ports.files.currentDirectory()))) ended_ = true;
+}
+
+void Shell::end() {
+  projects.release();
+  topScreen.saveRecentProjects();
+  UnloadAllScreens(context_);
+  ended_ = true;
+}
+
+}  // namespace kestra

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "graphics/line_settings.h"
+#include "screens/screen_context.h"
+#include "screens/text_screen.h"
+#include "shell/frm_kestra.h"
+#include "shell/frm_top_screen.h"
+#include "shell/project_screens.h"
+#include "shell/projects.h"
+#include "summary/summary_fields.h"
+
+namespace kestra {
+
+// The screens of the application shell, joined to each other, and the program's start and end.
+class Shell {
+ public:
+  Shell(ScreenContext& context, const std::string& applicationDirectory);
+
+  frmTopScreen topScreen;
+  frmKestra inputWindow;
+  Projects projects;
+  frmNewProject newProject;
+  frmOpenProject openProject;
+  frmDeleteProject deleteProject;
+  TextScreen about;
+  TextScreen disclaimer;
+
+  FieldCatalogues catalogues;
+  LineSettings lines;
+
+  // Starts the application, `commandLine` being what stands behind the program's name: nothing, or the path of a control
+  // file, in double quotes or not; a single character is ignored. A file whose directory is no project ends the program.
+  void startUp(const std::string& commandLine);
+  void loadCatalogues() { catalogues.LoadFieldCatalogues(context_.ports.files, applicationDirectory_); }
+  void end();  // as when the user has agreed: the recent list is saved, the screens are unloaded
+  bool ended() const { return ended_; }
+
+ private:
+  void openCommandLine(std::string path);
+
+  ScreenContext& context_;
+  std::string applicationDirectory_;
+  bool ended_ = false;
+};
+
+}  // namespace kestra

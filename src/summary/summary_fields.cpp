@@ -1,0 +1,47 @@
+#include "summary/summary_fields.h"
+
+#include "base/fields.h"
+#include "base/quoted_list.h"
+#include "platform/files.h"
+
+namespace kestra {
+namespace {
+
+std::vector<std::string> titlesIn(FileSystem& files, const std::string& directory, const char* name) {
+  std::vector<std::string> titles;
+  const auto path = findIgnoringCase(files, directory, name);
+  if (!path) return titles;
+  const auto text = files.read(path.value(), kReadLimit);
+  if (!text) return titles;
+  QuotedListReader reader(text.value());
+  while (titles.size() < kMostSummaryFields) {
+    auto title = reader.next();
+    if (!title) break;
+    titles.push_back(*title);
+  }
+  return titles;
+}
+
+}  // namespace
+
+void FieldCatalogues::LoadFieldCatalogues(FileSystem& files, const std::string& applicationDirectory) {
+  fieldTitles[0] = titlesIn(files, applicationDirectory, "Summary.idt");
+  fieldTitles[1] = titlesIn(files, applicationDirectory, "Summary.ids");
+}
+
+SummarySelection defaultSummarySelection() {
+  return {{{{1, 9, 11, 12, 17, 18, 19, 36, 37, 38, 39, 40}, {1, 2, 3, 4, 5, 6}}}};
+}
+
+std::string summaryFileText(const SummarySelection& selection, const std::vector<std::string>& entryNames) {
+  std::string text;
+  const auto number = [&text](std::size_t value) { text.append(std::to_string(value)).append(kCrLf); };
+  for (const auto& fields : selection.selectedFields) {
+    number(fields.size());
+    for (const int field : fields) number(static_cast<std::size_t>(field));
+  }
+  for (const auto& name : entryNames) text += quotedLine(name);
+  return text;
+}
+
+}  // namespace kestra
