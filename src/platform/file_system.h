@@ -13,9 +13,9 @@ namespace kestra {
 struct FileStatus {
   enum class Type { file, directory, link, other };
   Type type = Type::file;
-  std::uint64_t size = 0;        // bytes
-  std::int64_t modifiedNs = 0;   // last change, nanoseconds since 1970-01-01 UTC
-  bool writable = true;          // some write bit is set
+  std::uint64_t size = 0;       // bytes
+  std::int64_t modifiedNs = 0;  // last change, nanoseconds since 1970-01-01 UTC
+  bool writable = true;         // some write bit is set
 };
 
 struct DirectoryEntry {
@@ -56,14 +56,14 @@ class FileSystem {
   virtual Status makeDirectory(const std::string& path) = 0;  // one level; exists when something stands there
   virtual Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) = 0;  // exists when there is one
   virtual Status rename(const std::string& from, const std::string& to) = 0;           // replaces a file at `to`
-  virtual Status syncDirectory(const std::string& path) = 0;  // makes creations and renames in it durable
-  virtual Status removeFile(const std::string& path) = 0;     // a file, or a link itself
+  virtual Status syncDirectory(const std::string& path) = 0;    // makes creations and renames in it durable
+  virtual Status removeFile(const std::string& path) = 0;       // a file, or a link itself
   virtual Status removeDirectory(const std::string& path) = 0;  // an empty one
   virtual Status setReadOnly(const std::string& path, bool readOnly) = 0;
   virtual Status copyMode(const std::string& from, const std::string& to) = 0;  // permissions
 
   virtual Status changeDirectory(const std::string& path) = 0;
-  virtual std::string currentDirectory() = 0;  // "/" when it has been removed
+  virtual std::string currentDirectory() = 0;    // "/" when it has been removed
   virtual std::vector<std::string> roots() = 0;  // of the mounted file systems that hold files, sorted
 
   // Takes hold of an existing file for this program. busy when another holds it, the reason then telling who

@@ -47,8 +47,8 @@ struct CalendarTime {
 class Clock {
  public:
   virtual ~Clock() = default;
-  virtual std::int64_t nowNs() = 0;      // nanoseconds since 1970-01-01 UTC
-  virtual std::int64_t steadyNs() = 0;   // never runs backwards; for spans of time
+  virtual std::int64_t nowNs() = 0;                     // nanoseconds since 1970-01-01 UTC
+  virtual std::int64_t steadyNs() = 0;                  // never runs backwards; for spans of time
   virtual CalendarTime localTime(std::int64_t ns) = 0;  // in the user's time zone
 };
 
