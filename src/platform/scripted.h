@@ -12,7 +12,7 @@
 // Recording... remembers.
 namespace kestra {
 
-// Answers from a list; without an answer left a box is refused.
+// Answers from a list; a box is refused when no answer is left, or when it does not offer the one that is next.
 class ScriptedMessageBoxes : public MessageBoxes {
  public:
   BoxButton show(const MessageBox& box) override;
@@ -44,7 +44,7 @@ class MemorySettings : public SettingsStore {
   Status set(const std::string& section, const Entries& entries) override;
 
  private:
-  std::map<std::string, std::string> values_;  // by "SECTION\nKEY" in upper case
+  std::map<std::pair<std::string, std::string>, std::string> values_;  // by section and key in upper case
 };
 
 class MemoryClipboard : public Clipboard {
@@ -102,7 +102,8 @@ class RecordingHelpViewer : public HelpViewer {
 };
 
 // Runs no program: calls the effect that is set for the program's path, which may write the files that the real one
-// would. A program without an effect fails to start with "No such file or directory".
+// would. A program without an effect fails to start with "No such file or directory". `keepGoing` is asked once, before
+// the effect.
 class ScriptedProcessHost : public ProcessHost {
  public:
   using Effect = std::function<ProcessOutcome(const ProcessRequest&)>;
