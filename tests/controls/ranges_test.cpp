@@ -1,0 +1,45 @@
+#include "controls/ranges.h"
+
+#include <gtest/gtest.h>
+
+#include "controls/test_screen.h"
+
+namespace kestra {
+namespace {
+
+TEST(Gauge, staysWithinItsLimits) {
+  Stage stage;
+  Gauge gauge(stage.screen, "Gauge", 0, 8);
+  gauge.setValue(9);
+  EXPECT_EQ(gauge.value(), 8);
+  gauge.setLimits(0, 4);
+  EXPECT_EQ(gauge.value(), 4);
+  gauge.setValue(-1);
+  EXPECT_EQ(gauge.value(), 0);
+}
+
+TEST(Slider, tellsOfTheUsersMove) {
+  Stage stage;
+  Slider slider(stage.screen, "sldTime", 0, 10);
+  int changes = 0;
+  slider.onChange = [&changes] { ++changes; };
+  slider.setValue(3);
+  slider.userMove(5);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(slider.value(), 5);
+}
+
+TEST(Tabs, changeToAPageThatIsThere) {
+  Stage stage;
+  Tabs tabs(stage.screen, "tabPages", {"One", "Two"});
+  int from = -1;
+  tabs.onClick = [&from](int previous) { from = previous; };
+  EXPECT_TRUE(tabs.userSelect(1));
+  EXPECT_EQ(from, 0);
+  EXPECT_FALSE(tabs.userSelect(2));
+  EXPECT_FALSE(tabs.userSelect(-1));
+  EXPECT_EQ(tabs.index(), 1);
+}
+
+}  // namespace
+}  // namespace kestra

@@ -1,0 +1,92 @@
+#include "controls/screen_host.h"
+
+#include <gtest/gtest.h>
+
+#include "controls/simple_controls.h"
+#include "controls/test_screen.h"
+#include "controls/text_box.h"
+
+namespace kestra {
+namespace {
+
+using Log = std::vector<std::string>;
+
+TEST(ScreenHost, loadsOnceAndActivatesAtEveryShow) {
+  Stage stage;
+  stage.host.enter(stage.screen);
+  stage.host.show(stage.screen);
+  stage.host.hide(stage.screen);
+  stage.host.show(stage.screen);
+  EXPECT_EQ(stage.screen.log, (Log{"load", "activate", "activate"}));
+}
+
+TEST(ScreenHost, keepsTheFrontScreenFirst) {
+  Stage stage;
+  TestScreen other("frmOther");
+  stage.host.enter(stage.screen);
+  stage.host.enter(other);
+  stage.host.show(stage.screen);
+  stage.host.show(other);
+  EXPECT_EQ(stage.host.shown(), (std::vector<Screen*>{&other, &stage.screen}));
+  stage.host.show(stage.screen);
+  EXPECT_EQ(stage.host.shown(), (std::vector<Screen*>{&stage.screen, &other}));
+  stage.host.hide(stage.screen);
+  EXPECT_EQ(stage.host.shown(), (std::vector<Screen*>{&other}));
+}
+
+TEST(ScreenHost, keepsWhatWasPutInOnHidingAndForgetsItOnUnloading) {
+  Stage stage;
+  TextBox field(stage.screen, "txtField", "design");
+  stage.host.enter(stage.screen);
+  stage.host.show(stage.screen);
+  field.userReplace("typed");
+  stage.screen.setTitle("Other");
+  stage.host.hide(stage.screen);
+  EXPECT_EQ(field.text(), "typed");
+  EXPECT_TRUE(stage.host.unload(stage.screen));
+  EXPECT_EQ(field.text(), "design");
+  EXPECT_EQ(stage.screen.title(), "Test");
+  EXPECT_FALSE(stage.screen.loaded());
+}
+
+TEST(ScreenHost, asksBeforeItUnloadsAndTellsWhoWantsIt) {
+  Stage stage;
+  stage.host.enter(stage.screen);
+  stage.screen.maySayNo = true;
+  stage.host.show(stage.screen);
+  stage.screen.log.clear();
+  EXPECT_FALSE(stage.host.closeByFrame(stage.screen));
+  EXPECT_FALSE(stage.host.unload(stage.screen));
+  EXPECT_TRUE(stage.screen.visible());
+  stage.bExiting = true;
+  EXPECT_TRUE(stage.host.unload(stage.screen));
+  EXPECT_EQ(stage.screen.log, (Log{"frame", "program", "program exiting", "unload"}));
+  EXPECT_TRUE(stage.host.unload(stage.screen));
+  EXPECT_EQ(stage.screen.log.size(), 4U);
+}
+
+struct ScriptedLoop : ModalLoop {
+  void run(Screen& screen) override { shownMeanwhile = screen.visible(); }
+  bool shownMeanwhile = false;
+};
+
+TEST(ScreenHost, takesAModalScreenAwayWhenItsLoopEnds) {
+  Stage stage;
+  ScriptedLoop loop;
+  stage.host.enter(stage.screen);
+  stage.host.setModalLoop(&loop);
+  stage.host.showModal(stage.screen);
+  EXPECT_TRUE(loop.shownMeanwhile);
+  EXPECT_FALSE(stage.screen.visible());
+  EXPECT_TRUE(stage.screen.loaded());
+}
+
+TEST(ScreenHost, findsScreensByTheirExactName) {
+  Stage stage;
+  stage.host.enter(stage.screen);
+  EXPECT_EQ(stage.host.find("frmTest"), &stage.screen);
+  EXPECT_EQ(stage.host.find("frmtest"), nullptr);
+}
+
+}  // namespace
+}  // namespace kestra

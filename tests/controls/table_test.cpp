@@ -1,0 +1,60 @@
+#include "controls/table.h"
+
+#include <gtest/gtest.h>
+
+#include "controls/test_screen.h"
+
+namespace kestra {
+namespace {
+
+TEST(Table, ignoresPositionsOutside) {
+  Stage stage;
+  Table table(stage.screen, "grdTable", {3, 4, 1, 1});
+  table.setCell(3, 0, "x");
+  table.setCell(-1, 0, "x");
+  table.setCell(2, 3, "y");
+  EXPECT_EQ(table.cell(3, 0), "");
+  EXPECT_EQ(table.cell(2, 3), "y");
+  table.setCursor({3, 0});
+  EXPECT_EQ(table.cursor(), (CellPosition{1, 1}));
+}
+
+TEST(Table, clearsItsDataAndKeepsItsHeadings) {
+  Stage stage;
+  Table table(stage.screen, "grdTable", {3, 3, 1, 1});
+  table.setCell(0, 1, "Elevation");
+  table.setCell(1, 0, "1");
+  table.setCell(1, 1, "100");
+  table.setCursor({2, 2});
+  table.clearData();
+  EXPECT_EQ(table.cell(0, 1), "Elevation");
+  EXPECT_EQ(table.cell(1, 0), "1");
+  EXPECT_EQ(table.cell(1, 1), "");
+  EXPECT_EQ(table.cursor(), (CellPosition{1, 1}));
+}
+
+TEST(Table, knowsTheCornersOfASelectionDrawnUpwards) {
+  Stage stage;
+  Table table(stage.screen, "grdTable", {5, 5, 1, 1});
+  table.setSelection({4, 1}, {2, 3});
+  EXPECT_EQ(table.cursor(), (CellPosition{4, 1}));
+  EXPECT_EQ(table.firstSelected(), (CellPosition{2, 1}));
+  EXPECT_EQ(table.lastSelected(), (CellPosition{4, 3}));
+  table.setCursor({1, 1});
+  EXPECT_EQ(table.corner(), (CellPosition{1, 1}));
+}
+
+TEST(Table, countsOneEditForABlock) {
+  Stage stage;
+  Table table(stage.screen, "grdTable", {3, 3, 1, 1});
+  int edits = 0;
+  stage.host.onEdited = [&edits](Screen&, Control&) { ++edits; };
+  stage.host.enter(stage.screen);
+  table.userSetCell(1, 1, "a");
+  table.userSetCell(1, 2, "b");
+  table.userEdited();
+  EXPECT_EQ(edits, 1);
+}
+
+}  // namespace
+}  // namespace kestra
