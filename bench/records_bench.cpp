@@ -65,7 +65,8 @@ std::size_t takeAll(const std::string& text) {
       LineReader rows(record.rows);
       std::string_view row;
       while (rows.next(row)) {
-        for (const FieldText& field : takeApartRow(*record.layout, row)) bytes += field.text().size();
+        const FieldTexts texts = takeApartRow(*record.layout, row);
+        for (std::size_t i = 0; i < texts.size(); ++i) bytes += texts[i].text().size();
       }
     }
   }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -53,8 +52,6 @@ struct RecordLayout {
   bool written = true;  // false: accepted on input only
 };
 
-// No record and no row has more fields than this.
-inline constexpr std::size_t kMostFields = 8;
 inline constexpr int kKeywordWidth = 10;
 inline constexpr std::string_view kTableEnd = "ENDTABLE";
 inline constexpr std::string_view kRunEnd = "ENDRUN";

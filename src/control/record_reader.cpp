@@ -5,7 +5,6 @@
 
 #include "base/fields.h"
 #include "base/lines.h"
-#include "control/line_cutter.h"
 
 namespace kestra {
 namespace {
@@ -59,14 +58,15 @@ class RunWalker {
   void take(std::string_view line) {
     if (line.empty()) return;
     const std::size_t number = lines_.lineNumber();
-    const RecordLayout* layout = recognise(run().kind, endsRun(line) ? kRunEnd : line);
+    const bool isLast = endsRun(line);
+    const RecordLayout* layout = recognise(run().kind, isLast ? kRunEnd : line);
     if (layout == nullptr) {
       run().unknown.push_back({number, line});
     } else {
       run().records.push_back({layout, number, line, keywordOf(line), takeApart(*layout, line), {}});
       if (layout->table) takeRows(run().records.back(), *layout->table);
     }
-    if (endsRun(line)) endRun(line);
+    if (isLast) endRun(line);
   }
 
   void endRun(std::string_view line) {
@@ -109,10 +109,10 @@ bool reaches(std::string_view line, int column) {
   return isPlainAscii(line.substr(0, needed)) || !columns(line, column, 1).empty();
 }
 
-FieldTexts::FieldTexts(std::span<const FieldLayout> fields, std::string_view line) : size_(fields.size()) {
-  assert(size_ <= kMostFields);
-  const LineCutter cutter(line);
-  for (std::size_t i = 0; i < size_; ++i) texts_[i].raw = cutter.cut(fields[i].first, fields[i].readWidth);
+FieldText FieldTexts::named(std::string_view name) const {
+  const FieldLayout* field = findField(fields_, name);
+  assert(field != nullptr);
+  return {line_.cut(field->first, field->readWidth)};
 }
 
 FieldTexts takeApart(const RecordLayout& record, std::string_view line) {
@@ -124,10 +124,10 @@ FieldTexts takeApartRow(const RecordLayout& record, std::string_view line) {
   return {record.table->fields, line};
 }
 
-std::vector<std::string_view> givenValues(std::span<const FieldLayout> fields, const FieldTexts& texts) {
+std::vector<std::string_view> givenValues(const FieldTexts& texts) {
   std::vector<std::string_view> values;
   for (std::size_t i = 0; i < texts.size() && texts[i].reached(); ++i) {
-    if (!fields[i].literal) values.push_back(texts[i].raw);
+    if (!texts.layout(i).literal) values.push_back(texts[i].raw);
   }
   return values;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <span>
 #include <string_view>
@@ -8,6 +7,7 @@
 
 #include "base/text.h"
 #include "control/catalogue.h"
+#include "control/line_cutter.h"
 
 // Takes the lines of a control file apart. Everything is a view into the text that was given; nothing ever fails, and
 // nothing is checked.
@@ -27,20 +27,22 @@ struct FieldText {
   std::string_view text() const { return trim(raw); }
 };
 
-// The texts of a record's or row's fields, one a field of its layout, literals too.
+// The texts of a record's or row's fields, one a field of its layout, literals too; cut out when asked for.
 class FieldTexts {
  public:
-  FieldTexts() = default;
-  FieldTexts(std::span<const FieldLayout> fields, std::string_view line);
+  FieldTexts(std::span<const FieldLayout> fields, std::string_view line) : fields_(fields), line_(line) {}
 
-  std::size_t size() const { return size_; }
-  const FieldText& operator[](std::size_t i) const { return texts_[i]; }
-  const FieldText* begin() const { return texts_.data(); }
-  const FieldText* end() const { return texts_.data() + size_; }
+  std::size_t size() const { return fields_.size(); }
+  FieldText operator[](std::size_t i) const { return {line_.cut(fields_[i].first, fields_[i].readWidth)}; }
+
+  // The field of that name, which the layout has.
+  FieldText named(std::string_view name) const;
+
+  const FieldLayout& layout(std::size_t i) const { return fields_[i]; }
 
  private:
-  std::array<FieldText, kMostFields> texts_;
-  std::size_t size_ = 0;
+  std::span<const FieldLayout> fields_;
+  LineCutter line_;
 };
 
 FieldTexts takeApart(const RecordLayout& record, std::string_view line);
@@ -50,15 +52,15 @@ FieldTexts takeApartRow(const RecordLayout& record, std::string_view line);
 
 // The raw texts that composeRecord or composeRow would join to that line again: literals left out, up to the first
 // field that the line does not reach.
-std::vector<std::string_view> givenValues(std::span<const FieldLayout> fields, const FieldTexts& texts);
+std::vector<std::string_view> givenValues(const FieldTexts& texts);
 
 // The layout of the line: the one whose mark it bears, else the keyword's layout without a mark, the first of them
 // where there are several (the line does not tell). Synonyms count. Null for an unknown keyword.
 const RecordLayout* recognise(RunKind run, std::string_view line);
 
 struct ControlRecord {
-  const RecordLayout* layout = nullptr;
-  std::size_t lineNumber = 0;  // in the file, from 1
+  const RecordLayout* layout;
+  std::size_t lineNumber;  // in the file, from 1
   std::string_view line;
   std::string_view keyword;  // as it stands
   FieldTexts fields;

@@ -1,7 +1,5 @@
 #include "control/record_table.h"
 
-#include <algorithm>
-
 namespace kestra {
 namespace {
 
@@ -307,11 +305,6 @@ constexpr RecordLayout kRecords[] = {
 };
 
 constexpr RecordLayout kFrame[] = {kTableEndRecord, kRunEndRecord};
-
-constexpr bool fits(const RecordLayout& record) {
-  return record.fields.size() <= kMostFields && (!record.table || record.table->fields.size() <= kMostFields);
-}
-static_assert(std::all_of(std::begin(kRecords), std::end(kRecords), fits));
 
 }  // namespace
 

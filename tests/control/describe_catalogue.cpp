@@ -15,7 +15,8 @@ std::string columnsText(const FieldLayout& field) {
 
 std::string widthText(const FieldLayout& field) {
   if (field.kind == FieldKind::free) return fmt::format("free, read as {}", field.readWidth);
-  if (field.kind == FieldKind::code) return fmt::format("{}, not padded", field.width);
+  const std::string read = field.readWidth == field.width ? "" : fmt::format(", read as {}", field.readWidth);
+  if (field.kind == FieldKind::code) return fmt::format("{}, not padded{}", field.width, read);
   return fmt::format("{}", field.width);
 }
 

@@ -47,13 +47,13 @@ const RecordLayout& layoutOf(const ControlRun& run, const ControlRecord& record)
 
 std::string composeAgain(const ControlRun& run, const ControlRecord& record) {
   const RecordLayout& layout = layoutOf(run, record);
-  std::string text = composeRecord(layout, givenValues(layout.fields, takeApart(layout, record.line)));
+  std::string text = composeRecord(layout, givenValues(takeApart(layout, record.line)));
   text += kCrLf;
   if (!layout.table) return text;
   LineReader rows(record.rows);
   std::string_view row;
   while (rows.next(row)) {
-    appendRow(text, layout, givenValues(layout.table->fields, takeApartRow(layout, row)));
+    appendRow(text, layout, givenValues(takeApartRow(layout, row)));
     text += kCrLf;
   }
   return text.append(kTableEnd).append(kCrLf);
