@@ -13,7 +13,9 @@
 namespace kestra {
 namespace {
 
-std::string placeOf(const Control& control) { return control.screen().name() + "." + control.name(); }
+std::string placeOf(const Control& control) {
+  return control.screen().name() + "." + control.name();
+}
 
 [[noreturn]] void refuse(const Control& control, const std::string& why) {
   throw RequestError(placeOf(control) + " " + why);
@@ -67,24 +69,39 @@ void describeRange(const Control& control, Json& out) {
 
 void describeKind(const Control& control, Json& out) {
   switch (control.kind()) {
-    case ControlKind::text: return describeText(control, out);
-    case ControlKind::option: out["value"] = as<OptionButton>(control).selected(); return;
-    case ControlKind::check: out["value"] = as<CheckBox>(control).checked(); return;
+    case ControlKind::text:
+      return describeText(control, out);
+    case ControlKind::option:
+      out["value"] = as<OptionButton>(control).selected();
+      return;
+    case ControlKind::check:
+      out["value"] = as<CheckBox>(control).checked();
+      return;
     case ControlKind::combo:
-    case ControlKind::list: return describeChoice(control, out);
-    case ControlKind::menu: out["checked"] = as<Menu>(control).checked(); return;
-    case ControlKind::table: return describeTable(control, out);
+    case ControlKind::list:
+      return describeChoice(control, out);
+    case ControlKind::menu:
+      out["checked"] = as<Menu>(control).checked();
+      return;
+    case ControlKind::table:
+      return describeTable(control, out);
     case ControlKind::tabs:
       out["value"] = as<Tabs>(control).index();
       out["captions"] = as<Tabs>(control).captions();
       return;
     case ControlKind::slider:
-    case ControlKind::gauge: return describeRange(control, out);
-    case ControlKind::canvas: out["scale"] = as<CanvasControl>(control).scale(); return;
-    case ControlKind::directory: out["value"] = as<DirectoryList>(control).path(); return;
+    case ControlKind::gauge:
+      return describeRange(control, out);
+    case ControlKind::canvas:
+      out["scale"] = as<CanvasControl>(control).scale();
+      return;
+    case ControlKind::directory:
+      out["value"] = as<DirectoryList>(control).path();
+      return;
     case ControlKind::button:
     case ControlKind::label:
-    case ControlKind::frame: return;
+    case ControlKind::frame:
+      return;
   }
 }
 
@@ -107,7 +124,8 @@ void setDirectory(Control& control, const Json& value) {
 }
 
 void setTabs(Control& control, const Json& value) {
-  if (!as<Tabs>(control).userSelect(asInteger(value, placeOf(control)))) refuse(control, "has no tab " + oneLine(value));
+  if (!as<Tabs>(control).userSelect(asInteger(value, placeOf(control))))
+    refuse(control, "has no tab " + oneLine(value));
 }
 
 Key keyOf(const Json& value) {
@@ -134,15 +152,23 @@ Json describeControl(const Control& control) {
 void setControl(Control& control, const Json& value) {
   control.userFocus();
   switch (control.kind()) {
-    case ControlKind::text: return as<TextBox>(control).userReplace(asText(value, placeOf(control)));
-    case ControlKind::option: return setOption(control, value);
-    case ControlKind::check: return as<CheckBox>(control).userSet(asBoolean(value, placeOf(control)));
+    case ControlKind::text:
+      return as<TextBox>(control).userReplace(asText(value, placeOf(control)));
+    case ControlKind::option:
+      return setOption(control, value);
+    case ControlKind::check:
+      return as<CheckBox>(control).userSet(asBoolean(value, placeOf(control)));
     case ControlKind::combo:
-    case ControlKind::list: return setChoice(control, value);
-    case ControlKind::slider: return as<Slider>(control).userMove(asNumber(value, placeOf(control)));
-    case ControlKind::tabs: return setTabs(control, value);
-    case ControlKind::directory: return setDirectory(control, value);
-    default: refuse(control, "cannot be set: it is a " + std::string(nameOf(control.kind())));
+    case ControlKind::list:
+      return setChoice(control, value);
+    case ControlKind::slider:
+      return as<Slider>(control).userMove(asNumber(value, placeOf(control)));
+    case ControlKind::tabs:
+      return setTabs(control, value);
+    case ControlKind::directory:
+      return setDirectory(control, value);
+    default:
+      refuse(control, "cannot be set: it is a " + std::string(nameOf(control.kind())));
   }
 }
 
@@ -157,19 +183,26 @@ void clickControl(Control& control) {
       if (control.kind() == ControlKind::button) control.userFocus();
       return command.click();
     }
-    case ControlKind::option: return as<OptionButton>(control).userSelect();
-    case ControlKind::check: return as<CheckBox>(control).userSet(!as<CheckBox>(control).checked());
-    default: refuse(control, "cannot be clicked: it is a " + std::string(nameOf(control.kind())));
+    case ControlKind::option:
+      return as<OptionButton>(control).userSelect();
+    case ControlKind::check:
+      return as<CheckBox>(control).userSet(!as<CheckBox>(control).checked());
+    default:
+      refuse(control, "cannot be clicked: it is a " + std::string(nameOf(control.kind())));
   }
 }
 
 void doubleClickControl(Control& control) {
   switch (control.kind()) {
     case ControlKind::combo:
-    case ControlKind::list: return as<ChoiceList>(control).userDoubleClick();
-    case ControlKind::table: return as<Table>(control).userDoubleClick();
-    case ControlKind::canvas: return as<CanvasControl>(control).userMouse({MouseEvent::Type::doubleClick, 1, 0, 0});
-    default: refuse(control, "cannot be double-clicked: it is a " + std::string(nameOf(control.kind())));
+    case ControlKind::list:
+      return as<ChoiceList>(control).userDoubleClick();
+    case ControlKind::table:
+      return as<Table>(control).userDoubleClick();
+    case ControlKind::canvas:
+      return as<CanvasControl>(control).userMouse({MouseEvent::Type::doubleClick, 1, 0, 0});
+    default:
+      refuse(control, "cannot be double-clicked: it is a " + std::string(nameOf(control.kind())));
   }
 }
 

@@ -75,8 +75,8 @@ Json Conversation::take(const char* name) {
 // Takes the answer to a dialog and writes both down; null when the dialog is cancelled.
 Json Conversation::ask(Json dialog, const char* name) {
   if (turn() == nullptr) {
-    outside_ << "cancelled: " << dialog["kind"].get<std::string>() << " dialog "
-             << dialog["title"].get<std::string>() << '\n';
+    outside_ << "cancelled: " << dialog["kind"].get<std::string>() << " dialog " << dialog["title"].get<std::string>()
+             << '\n';
     return nullptr;
   }
   Json answer = take(name);

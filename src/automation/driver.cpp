@@ -54,9 +54,13 @@ bool readLine(std::istream& in, std::string& line, std::size_t longest) {
   return true;
 }
 
-bool isBlank(std::string_view line) { return line.find_first_not_of(" \t\r") == std::string_view::npos; }
+bool isBlank(std::string_view line) {
+  return line.find_first_not_of(" \t\r") == std::string_view::npos;
+}
 
-Json failed(const std::string& why) { return {{"ok", false}, {"error", why}}; }
+Json failed(const std::string& why) {
+  return {{"ok", false}, {"error", why}};
+}
 
 Json namesOf(const std::vector<Screen*>& screens) {
   Json names = Json::array();
@@ -79,7 +83,9 @@ Driver::Driver(Application& application, Conversation& conversation, CanvasRende
   application_.host.setModalLoop(this);
 }
 
-Driver::~Driver() { application_.host.setModalLoop(nullptr); }
+Driver::~Driver() {
+  application_.host.setModalLoop(nullptr);
+}
 
 void Driver::run(std::istream& in, std::ostream& out) {
   std::string line;

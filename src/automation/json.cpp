@@ -5,7 +5,9 @@
 namespace kestra {
 namespace {
 
-std::string fieldNamed(const char* name) { return "field \"" + std::string(name) + "\""; }
+std::string fieldNamed(const char* name) {
+  return "field \"" + std::string(name) + "\"";
+}
 
 }  // namespace
 
@@ -15,15 +17,25 @@ const Json& Fields::any(const char* name) const {
   return *at;
 }
 
-const std::string& Fields::text(const char* name) const { return asText(any(name), fieldNamed(name)); }
+const std::string& Fields::text(const char* name) const {
+  return asText(any(name), fieldNamed(name));
+}
 
-int Fields::integer(const char* name) const { return asInteger(any(name), fieldNamed(name)); }
+int Fields::integer(const char* name) const {
+  return asInteger(any(name), fieldNamed(name));
+}
 
-int Fields::integer(const char* name, int otherwise) const { return has(name) ? integer(name) : otherwise; }
+int Fields::integer(const char* name, int otherwise) const {
+  return has(name) ? integer(name) : otherwise;
+}
 
-double Fields::number(const char* name) const { return asNumber(any(name), fieldNamed(name)); }
+double Fields::number(const char* name) const {
+  return asNumber(any(name), fieldNamed(name));
+}
 
-const Json& Fields::list(const char* name) const { return asList(any(name), fieldNamed(name)); }
+const Json& Fields::list(const char* name) const {
+  return asList(any(name), fieldNamed(name));
+}
 
 const std::string& asText(const Json& value, const std::string& what) {
   if (!value.is_string()) throw RequestError(what + " must be a text");
@@ -55,7 +67,9 @@ const Json& asList(const Json& value, const std::string& what) {
   return value;
 }
 
-std::string oneLine(const Json& value) { return value.dump(-1, ' ', false, Json::error_handler_t::replace); }
+std::string oneLine(const Json& value) {
+  return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
 
 bool nestsDeeper(std::string_view text, int most) {
   int depth = 0;

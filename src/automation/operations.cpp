@@ -71,8 +71,8 @@ Json listOperations(const Application& application) {
   for (const Screen* screen : application.host.screens()) {
     for (const Control* control : screen->controls()) {
       if (!isCommand(*control) || !static_cast<const Command*>(control)->hasAction()) continue;
-      list.push_back({{"name", screen->name() + "." + control->name() + std::string(kClick)},
-                      {"arguments", Json::array()}});
+      list.push_back(
+          {{"name", screen->name() + "." + control->name() + std::string(kClick)}, {"arguments", Json::array()}});
     }
   }
   return list;

@@ -87,9 +87,9 @@ Json readVariable(const Application& application, const std::string& name) {
 
 Json describeState(const Application& application) {
   Json state = Json::object();
-  for (const char* name : {"projectDir", "currentFile", "fileDirty", "fileIsNew", "fileHasName", "bExiting",
-                           "windowOpen", "numAuxSpillways", "curAuxSpillway", "totalInstances", "lhsSeed",
-                           "bRandomSample", "recentProjects"}) {
+  for (const char* name :
+       {"projectDir", "currentFile", "fileDirty", "fileIsNew", "fileHasName", "bExiting", "windowOpen",
+        "numAuxSpillways", "curAuxSpillway", "totalInstances", "lhsSeed", "bRandomSample", "recentProjects"}) {
     state[name] = readVariable(application, name);
   }
   state["visible"] = Json::array();

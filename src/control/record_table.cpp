@@ -75,19 +75,17 @@ constexpr FieldLayout kComment[] = {
 constexpr FieldLayout kHeadcutModel1[] = {
     literal("model", 11, 10, "1", "number of the headcut erodibility model"),
     blank(21, 10),
-    ten("detachment rate", 31, "Properties.txtKd", "", "detachment rate coefficient, in the unit of the screen"),
+    ten("detachment rate", 31, "Properties.txtKd", "(ft/h)/(lb/ft^2)", "detachment rate coefficient (erodibility)"),
     blank(41, 10),
-    ten("critical shear", 51, "Properties.txtCriticalShearStress", "",
-        "critical shear stress, in the unit of the screen"),
-    freeField("headcut index", 61, 10, "Properties.txtHeadcutIndex", "", "headcut erodibility index")};
+    ten("critical shear", 51, "Properties.txtCriticalShearStress", "lb/ft^2", "critical shear stress"),
+    freeField("headcut index", 61, 10, "Properties.txtHeadcutIndex", "(ft/h)/(ft/s^1/3)",
+              "headcut advance coefficient")};
 constexpr FieldLayout kHeadcutModel2[] = {
     literal("model", 11, 10, "2", "number of the headcut erodibility model"),
-    ten("bulk density", 21, "Properties.txtBulkDensity", "", "bulk density, in the unit of the screen"),
-    ten("detachment rate", 31, "Properties.txtKd", "", "detachment rate coefficient, in the unit of the screen"),
-    ten("undrained shear", 41, "Properties.txtUndrainedShear", "",
-        "undrained shear strength, in the unit of the screen"),
-    freeField("critical shear", 51, 10, "Properties.txtCriticalShearStress", "",
-              "critical shear stress, in the unit of the screen")};
+    ten("bulk density", 21, "Properties.txtBulkDensity", "lb/ft^3", "bulk density (total unit weight)"),
+    ten("detachment rate", 31, "Properties.txtKd", "(ft/h)/(lb/ft^2)", "detachment rate coefficient (erodibility)"),
+    ten("undrained shear", 41, "Properties.txtUndrainedShear", "lb/ft^2", "undrained shear strength"),
+    freeField("critical shear", 51, 10, "Properties.txtCriticalShearStress", "lb/ft^2", "critical shear stress")};
 
 constexpr auto kTitle = ten("title", 11, "frmHydrographData.txtTitle", "", "title of the hydrograph");
 constexpr auto kStart = ten("start time", 31, "frmHydrographData.txtStartTime", "h", "time of the first value");
@@ -169,8 +167,9 @@ constexpr FieldLayout kInlet[] = {
 constexpr FieldLayout kConduit[] = {
     padded("conduits", 11, 5, "frmPSConduit.txtNumOfConduit", "", "number of conduits"),
     padded("length", 16, 5, "frmPSConduit.txtLengthOfConduit", "ft", "length of the conduit, in five columns only"),
-    ten("diameter", 21, "frmPSConduit.txtDiameterOfConduit", "", "diameter or width, in the unit of the screen"),
-    ten("height", 31, "frmPSConduit.txtHeight", "", "height of a rectangular conduit, in the unit of the screen"),
+    ten("diameter", 21, "frmPSConduit.txtDiameterOfConduit", "in or ft",
+        "diameter in inches of a circular conduit, width in feet of a rectangular one"),
+    ten("height", 31, "frmPSConduit.txtHeight", "ft", "height of a rectangular conduit"),
     ten("Manning's n", 41, "frmPSConduit.txtManning", "", "roughness of the conduit"),
     ten("invert at riser", 51, "frmPSConduit.txtInvertElevAtRiser", "ft", "invert elevation at the riser"),
     ten("invert at outlet", 61, "frmPSConduit.txtInvertElevAtOutlet", "ft", "invert elevation at the outlet"),
@@ -189,13 +188,13 @@ constexpr FieldLayout kHood[] = {
 constexpr FieldLayout kCoefficients[] = {
     ten("conduit orifice", 11, "frmPSConduit.txtConduitOrificeDischargeCoefficient", "",
         "discharge coefficient of the conduit's orifice"),
-    ten("orifice area", 21, "frmPSConduit.txtConduitOrificeArea", "",
-        "area of the conduit's orifice, in the unit of the screen"),
+    ten("orifice area", 21, "frmPSConduit.txtConduitOrificeArea", "ft^2",
+        "area of the conduit's entrance as an orifice"),
     ten("low stage weir", 31, "frmPSConduit.txtOrificeLowStageWeirFlow", "", "coefficient of low stage weir flow"),
     ten("low stage full", 41, "frmPSConduit.txtOrificeLowStageFullFlow", "", "coefficient of low stage full flow"),
     ten("weir", 51, "frmPSConduit.txtHighStageWeirCoefficient, .txtHoodWeirInletCoefficient", "",
         "weir coefficient: of the high stage, or of the hood for a hood inlet"),
-    ten("fillet", 61, "frmPSConduit.txtFilletSize", "", "fillet size, in the unit of the screen")};
+    ten("fillet", 61, "frmPSConduit.txtFilletSize", "in", "fillet of a rectangular conduit")};
 
 constexpr FieldLayout kTailwaterRow[] = {
     ten("elevation", 11, "frmPSRatingTable.grdTable column 1", "ft", "tailwater elevation"),
@@ -222,7 +221,7 @@ constexpr FieldLayout kReachRow[] = {
     ten("cover", 41, "frmAuxSpillwayProfile.grdCond row 3", "", "vegetal cover factor"),
     ten("maintenance", 51, "frmAuxSpillwayProfile.grdCond row 4", "", "maintenance code"),
     ten("root depth", 61, "frmAuxSpillwayProfile.grdCond row 5", "",
-        "potential root depth, in the unit of the screen; blank with stability analysis")};
+        "potential root depth; blank with stability analysis")};
 constexpr FieldLayout kSpillwayRating[] = {kNumber, kSpillwayName,
                                            code("analysis", 21, 1, 1, kAnalysisControl, kAnalysis)};
 constexpr FieldLayout kRatingRow[] = {

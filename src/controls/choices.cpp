@@ -86,7 +86,9 @@ void ChoiceList::setIndex(int index) {
   changed(Property::value);
 }
 
-std::string ChoiceList::text() const { return index_ < 0 ? typed_ : items_[static_cast<std::size_t>(index_)]; }
+std::string ChoiceList::text() const {
+  return index_ < 0 ? typed_ : items_[static_cast<std::size_t>(index_)];
+}
 
 void ChoiceList::setText(std::string_view text) {
   setIndex(indexOf(text));

@@ -8,7 +8,7 @@
 namespace kestra {
 
 std::string_view nameOf(ControlKind kind) {
-  constexpr std::array<std::string_view, 15> kNames = {"text",  "option", "check", "combo",  "list",
+  constexpr std::array<std::string_view, 15> kNames = {"text",   "option", "check", "combo",  "list",
                                                        "button", "menu",   "label", "frame",  "table",
                                                        "tabs",   "slider", "gauge", "canvas", "directory"};
   return kNames[static_cast<std::size_t>(kind)];
@@ -25,7 +25,9 @@ void Control::setCaption(std::string caption) {
   changed(Property::caption);
 }
 
-bool Control::visible() const { return look_.visible && (frame_ == nullptr || frame_->visible()); }
+bool Control::visible() const {
+  return look_.visible && (frame_ == nullptr || frame_->visible());
+}
 
 void Control::setVisible(bool visible) {
   look_.visible = visible;
@@ -59,10 +61,16 @@ void Control::takeFocus() {
   if (onFocus) onFocus();
 }
 
-void Control::userKey(const Key& key) { (void)key; }
+void Control::userKey(const Key& key) {
+  (void)key;
+}
 
-void Control::changed(Property property) { screen_.tell(*this, property); }
+void Control::changed(Property property) {
+  screen_.tell(*this, property);
+}
 
-void Control::edited() { screen_.tellEdited(*this); }
+void Control::edited() {
+  screen_.tellEdited(*this);
+}
 
 }  // namespace kestra

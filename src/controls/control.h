@@ -9,7 +9,21 @@ namespace kestra {
 class Screen;
 
 enum class ControlKind {
-  text, option, check, combo, list, button, menu, label, frame, table, tabs, slider, gauge, canvas, directory
+  text,
+  option,
+  check,
+  combo,
+  list,
+  button,
+  menu,
+  label,
+  frame,
+  table,
+  tabs,
+  slider,
+  gauge,
+  canvas,
+  directory
 };
 
 std::string_view nameOf(ControlKind kind);  // "text", "option", ...

@@ -11,7 +11,9 @@
 namespace kestra {
 
 // Name of a member of a control array: "optNone(0)".
-inline std::string memberName(const std::string& name, int index) { return name + "(" + std::to_string(index) + ")"; }
+inline std::string memberName(const std::string& name, int index) {
+  return name + "(" + std::to_string(index) + ")";
+}
 
 // Controls under one name with an index, counted from the array's first index.
 template <class C>

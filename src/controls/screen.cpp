@@ -7,7 +7,9 @@
 
 namespace kestra {
 
-Screen::Screen(std::string name, std::string title) : name_(std::move(name)) { place_.title = std::move(title); }
+Screen::Screen(std::string name, std::string title) : name_(std::move(name)) {
+  place_.title = std::move(title);
+}
 
 void Screen::setTitle(std::string title) {
   place_.title = std::move(title);
@@ -30,7 +32,9 @@ Control* Screen::find(std::string_view name) const {
   return at == byName_.end() ? nullptr : at->second;
 }
 
-void Screen::removeObserver(ScreenObserver& observer) { std::erase(observers_, &observer); }
+void Screen::removeObserver(ScreenObserver& observer) {
+  std::erase(observers_, &observer);
+}
 
 bool Screen::queryUnload(CloseReason reason, bool bExiting) {
   (void)reason, (void)bExiting;
@@ -48,7 +52,9 @@ void Screen::enter(Control& control) {
   byName_[control.name()] = &control;
 }
 
-Control* Screen::focused() const { return host_ != nullptr ? host_->focus_ : nullptr; }
+Control* Screen::focused() const {
+  return host_ != nullptr ? host_->focus_ : nullptr;
+}
 
 void Screen::setFocused(Control* control) {
   if (host_ != nullptr) host_->focus_ = control;

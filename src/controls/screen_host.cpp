@@ -45,9 +45,13 @@ void ScreenHost::hide(Screen& screen) {
   screen.tellScreen();
 }
 
-bool ScreenHost::closeByFrame(Screen& screen) { return take(screen, CloseReason::userFrame); }
+bool ScreenHost::closeByFrame(Screen& screen) {
+  return take(screen, CloseReason::userFrame);
+}
 
-bool ScreenHost::unload(Screen& screen) { return take(screen, CloseReason::program); }
+bool ScreenHost::unload(Screen& screen) {
+  return take(screen, CloseReason::program);
+}
 
 Control* ScreenHost::focus() const {
   return focus_ != nullptr && focus_->screen().visible() ? focus_ : nullptr;

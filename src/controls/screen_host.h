@@ -38,7 +38,7 @@ class ScreenHost {
   bool unload(Screen& screen);
 
   const std::vector<Screen*>& shown() const { return shown_; }  // front one first
-  Control* focus() const;  // null when its screen is not on show
+  Control* focus() const;                                       // null when its screen is not on show
 
   void setModalLoop(ModalLoop* loop) { modalLoop_ = loop; }
   void tellEdited(Screen& screen, Control& control) const;

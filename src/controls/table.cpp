@@ -42,7 +42,9 @@ void Table::clearData() {
   setCursor({size_.fixedRows, size_.fixedColumns});
 }
 
-void Table::setCursor(CellPosition at) { setSelection(at, at); }
+void Table::setCursor(CellPosition at) {
+  setSelection(at, at);
+}
 
 void Table::setSelection(CellPosition from, CellPosition to) {
   if (!holds(from) || !holds(to)) return;
@@ -59,7 +61,9 @@ CellPosition Table::lastSelected() const {
   return {std::max(cursor_.row, corner_.row), std::max(cursor_.column, corner_.column)};
 }
 
-void Table::userSetCell(int row, int column, std::string text) { setCell(row, column, std::move(text)); }
+void Table::userSetCell(int row, int column, std::string text) {
+  setCell(row, column, std::move(text));
+}
 
 void Table::userEdited() {
   edited();

@@ -39,15 +39,18 @@ class Table : public Control {
   void clearData();  // blanks all cells but the headings, the cursor on the first of them
 
   CellPosition cursor() const { return cursor_; }
-  CellPosition corner() const { return corner_; }  // the other end of the selection; the cursor when one cell is selected
-  void setCursor(CellPosition at);                 // selects that cell alone; no effect outside the table
+  CellPosition corner() const {
+    return corner_;
+  }                                 // the other end of the selection; the cursor when one cell is selected
+  void setCursor(CellPosition at);  // selects that cell alone; no effect outside the table
   void setSelection(CellPosition from, CellPosition to);  // the cursor at `from`
-  CellPosition firstSelected() const;              // upper left and lower right cell of the selection
+  CellPosition firstSelected() const;                     // upper left and lower right cell of the selection
   CellPosition lastSelected() const;
   const std::string& currentText() const { return cell(cursor_.row, cursor_.column); }
   void setCurrentText(std::string text) { setCell(cursor_.row, cursor_.column, std::move(text)); }
 
-  // Widths of columns and heights of rows, in twips (1/1440 inch), and whether a column is centred; 0: as the window likes.
+  // Widths of columns and heights of rows, in twips (1/1440 inch), and whether a column is centred; 0: as the window
+  // likes.
   void setColumnWidth(int column, int twips) { columnWidths_[static_cast<std::size_t>(column)] = twips; }
   int columnWidth(int column) const { return columnWidths_[static_cast<std::size_t>(column)]; }
   void setRowHeight(int row, int twips) { rowHeights_[static_cast<std::size_t>(row)] = twips; }

@@ -12,12 +12,32 @@ constexpr std::uint32_t rgb(std::uint32_t red, std::uint32_t green, std::uint32_
   return red + (green << 8U) + (blue << 16U);
 }
 
-constexpr std::array<std::uint32_t, 26> kDefaultColors = {
-    rgb(238, 213, 143), 0,                  255,                0,                 16711680,           255,
-    16711680,           0,                  rgb(105, 89, 205),  rgb(0, 206, 209),  rgb(255, 255, 0),   rgb(255, 128, 0),
-    rgb(160, 82, 45),   rgb(82, 160, 45),   rgb(205, 133, 63),  rgb(176, 48, 96),  rgb(188, 143, 143), rgb(205, 92, 92),
-    rgb(160, 82, 45),   rgb(205, 133, 63),  0,                  rgb(186, 85, 211), rgb(153, 50, 204),  rgb(216, 191, 216),
-    rgb(139, 121, 94),  rgb(205, 201, 165)};
+constexpr std::array<std::uint32_t, 26> kDefaultColors = {rgb(238, 213, 143),
+                                                          0,
+                                                          255,
+                                                          0,
+                                                          16711680,
+                                                          255,
+                                                          16711680,
+                                                          0,
+                                                          rgb(105, 89, 205),
+                                                          rgb(0, 206, 209),
+                                                          rgb(255, 255, 0),
+                                                          rgb(255, 128, 0),
+                                                          rgb(160, 82, 45),
+                                                          rgb(82, 160, 45),
+                                                          rgb(205, 133, 63),
+                                                          rgb(176, 48, 96),
+                                                          rgb(188, 143, 143),
+                                                          rgb(205, 92, 92),
+                                                          rgb(160, 82, 45),
+                                                          rgb(205, 133, 63),
+                                                          0,
+                                                          rgb(186, 85, 211),
+                                                          rgb(153, 50, 204),
+                                                          rgb(216, 191, 216),
+                                                          rgb(139, 121, 94),
+                                                          rgb(205, 201, 165)};
 
 // A random colour: 256 times a random fraction, whole, for red, green and blue.
 std::uint32_t randomColor(EntropySource& entropy) {

@@ -14,20 +14,20 @@ inline constexpr int kLastSlot = 6;
 
 // The values that all screens share. One object, owned by the application.
 struct ApplicationState {
-  std::string projectDir;   // of the open project; empty: none
-  std::string currentFile;  // full path of the open control file; empty: none
-  bool fileDirty = false;   // the screens were edited since the last save or load
-  bool fileIsNew = false;   // a new, still unnamed file is being edited
-  bool fileHasName = false;  // the file was opened or saved under a name
-  bool bExiting = false;    // the system itself is closing windows: screens ask nothing
+  std::string projectDir;        // of the open project; empty: none
+  std::string currentFile;       // full path of the open control file; empty: none
+  bool fileDirty = false;        // the screens were edited since the last save or load
+  bool fileIsNew = false;        // a new, still unnamed file is being edited
+  bool fileHasName = false;      // the file was opened or saved under a name
+  bool bExiting = false;         // the system itself is closing windows: screens ask nothing
   bool projectReadOnly = false;  // another program has the project open: look, but write nothing
 
   std::string solverPath;  // kept as configured; nothing starts it
   std::string crlf = std::string(kCrLf);
 
-  int numAuxSpillways = 0;               // auxiliary spillways in use, 0 to 3
-  int curAuxSpillway = 0;                // the one being edited, from 0
-  std::string currentSpillwayNumber;     // the same as a text, from "1"
+  int numAuxSpillways = 0;            // auxiliary spillways in use, 0 to 3
+  int curAuxSpillway = 0;             // the one being edited, from 0
+  std::string currentSpillwayNumber;  // the same as a text, from "1"
 
   std::string totalInstances = "1";  // instances of a sampled run, a text that holds a number
   std::string lhsSeed = "1";

@@ -20,7 +20,9 @@ frmTopScreen::frmTopScreen(ScreenContext& context, std::string applicationDirect
   mnuContents.onClick = [this] { context_.ports.help.showTopic(""); };
 }
 
-void frmTopScreen::Initialize() { context_.state.solverPath = joinPath(applicationDirectory_, "QUIL.exe"); }
+void frmTopScreen::Initialize() {
+  context_.state.solverPath = joinPath(applicationDirectory_, "QUIL.exe");
+}
 
 void frmTopScreen::startUp(const std::function<std::uint32_t()>& loadLists) {
   exitRequested_ = false;
@@ -39,10 +41,10 @@ void frmTopScreen::startUp(const std::function<std::uint32_t()>& loadLists) {
 void frmTopScreen::saveRecentProjects() {
   const Status saved = recent_.save(context_.ports.settings);
   if (saved) return;
-  context_.ports.boxes.tell("Kestra B",
-                            "The list of recent projects could not be saved. " + saved.failure().path + ": " +
-                                saved.failure().reason,
-                            BoxIcon::warning);
+  context_.ports.boxes.tell(
+      "Kestra B",
+      "The list of recent projects could not be saved. " + saved.failure().path + ": " + saved.failure().reason,
+      BoxIcon::warning);
 }
 
 bool frmTopScreen::queryUnload(CloseReason reason, bool bExiting) {

@@ -44,7 +44,7 @@ ProjectCheck checkProject(FileSystem& files, const std::string& directory) {
   if (flag) return ProjectCheck::project;
   const FailureKind kind = flag.failure().kind;
   return kind == FailureKind::notFound || kind == FailureKind::wrongType ? ProjectCheck::notAProject
-                                                                          : ProjectCheck::cannotEnter;
+                                                                         : ProjectCheck::cannotEnter;
 }
 
 bool bearsOwnersMark(FileSystem& files, const std::string& directory) {

@@ -41,6 +41,8 @@ void ProjectPicker::choose(const std::string& path) {
   drvList.setIndex(best);
 }
 
-void ProjectPicker::warn(const std::string& text) { context_.ports.boxes.tell(title(), text, BoxIcon::warning); }
+void ProjectPicker::warn(const std::string& text) {
+  context_.ports.boxes.tell(title(), text, BoxIcon::warning);
+}
 
 }  // namespace kestra

@@ -14,17 +14,19 @@ constexpr const char* kNoRecentProject = "This is not a valid Kestra B project d
 constexpr const char* kCannotEnter = "Unable to open project directory!";
 
 constexpr std::array<const char*, 23> kUnloadOrder = {
-    "frmAuxRatingTable",  "frmAuxSpillwayProfile", "frmAuxSpillways",       "frmDamSurface",     "frmDist",
-    "frmEditor",          "frmErrorTable",         "frmHeadcut",            "frmHeadcutGraph",   "frmHydroGraph",
-    "frmHydrographData",  "frmMaterialGraph",      "frmOutput",             "frmOutputGraph",    "frmProjectInformation",
-    "frmPSConduit",       "frmPSRatingTable",      "frmPSType",             "frmStructureTable", "frmSummaryGraphics",
-    "frmSummaryTable",    "frmUpdateColors",       "Properties"};
+    "frmAuxRatingTable", "frmAuxSpillwayProfile", "frmAuxSpillways", "frmDamSurface",     "frmDist",
+    "frmEditor",         "frmErrorTable",         "frmHeadcut",      "frmHeadcutGraph",   "frmHydroGraph",
+    "frmHydrographData", "frmMaterialGraph",      "frmOutput",       "frmOutputGraph",    "frmProjectInformation",
+    "frmPSConduit",      "frmPSRatingTable",      "frmPSType",       "frmStructureTable", "frmSummaryGraphics",
+    "frmSummaryTable",   "frmUpdateColors",       "Properties"};
 
 void warn(ScreenContext& context, const std::string& text) {
   context.ports.boxes.tell(kOpenTitle, text, BoxIcon::warning);
 }
 
-std::string openFrameTitle(const std::string& directory) { return "Kestra B [Project  " + directory + "]"; }
+std::string openFrameTitle(const std::string& directory) {
+  return "Kestra B [Project  " + directory + "]";
+}
 
 }  // namespace
 

@@ -7,9 +7,13 @@ namespace {
 
 constexpr const char* kSection = "ProjectHistory";
 
-std::string prefixOf(int number) { return "&" + std::to_string(number) + " "; }
+std::string prefixOf(int number) {
+  return "&" + std::to_string(number) + " ";
+}
 
-std::string keyOf(long long number) { return std::to_string(number) + "Project"; }
+std::string keyOf(long long number) {
+  return std::to_string(number) + "Project";
+}
 
 }  // namespace
 

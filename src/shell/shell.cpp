@@ -12,7 +12,8 @@ constexpr const char* kAbout =
     "\r\n\r\nLicensed under the Apache License, Version 2.0.";
 constexpr const char* kDisclaimer =
     "Kestra B is an aid for engineers. It is provided \"as is\", without warranties or conditions of any kind. Its "
-    "results rest on the data that were entered and on simplified methods; whoever uses them for a decision about a dam "
+    "results rest on the data that were entered and on simplified methods; whoever uses them for a decision about a "
+    "dam "
     "is responsible for checking that the data, the methods and the results are fit for it.";
 
 }  // namespace
@@ -29,7 +30,9 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       context_(context),
       applicationDirectory_(applicationDirectory) {
   ScreenHost& host = context_.host;
-  const auto shows = [&host](Menu& command, Screen& screen) { command.onClick = [&host, &screen] { host.show(screen); }; };
+  const auto shows = [&host](Menu& command, Screen& screen) {
+    command.onClick = [&host, &screen] { host.show(screen); };
+  };
   shows(topScreen.mnuNewProject, newProject);
   shows(topScreen.mnuOpenProject, openProject);
   shows(topScreen.mnuDeleteProject, deleteProject);

@@ -30,8 +30,9 @@ class Shell {
   FieldCatalogues catalogues;
   LineSettings lines;
 
-  // Starts the application, `commandLine` being what stands behind the program's name: nothing, or the path of a control
-  // file, in double quotes or not; a single character is ignored. A file whose directory is no project ends the program.
+  // Starts the application, `commandLine` being what stands behind the program's name: nothing, or the path of a
+  // control file, in double quotes or not; a single character is ignored. A file whose directory is no project ends the
+  // program.
   void startUp(const std::string& commandLine);
   void loadCatalogues() { catalogues.LoadFieldCatalogues(context_.ports.files, applicationDirectory_); }
   void end();  // as when the user has agreed: the recent list is saved, the screens are unloaded

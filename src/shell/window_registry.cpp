@@ -5,7 +5,9 @@
 namespace kestra {
 namespace {
 
-std::size_t at(int slot) { return static_cast<std::size_t>(slot); }
+std::size_t at(int slot) {
+  return static_cast<std::size_t>(slot);
+}
 constexpr int kInput = static_cast<int>(WindowSlot::input);
 
 }  // namespace
@@ -19,11 +21,17 @@ void WindowRegistry::shown(Screen& screen) {
   if (inSequence || &screen == slots_[kInput].screen) lastInSequence_ = &screen;
 }
 
-void WindowRegistry::AddData(int slot) { state_.window(slot) = true; }
+void WindowRegistry::AddData(int slot) {
+  state_.window(slot) = true;
+}
 
-void WindowRegistry::RemoveData(int slot) { state_.window(slot) = false; }
+void WindowRegistry::RemoveData(int slot) {
+  state_.window(slot) = false;
+}
 
-bool WindowRegistry::IsAvailable(int slot) const { return state_.window(slot); }
+bool WindowRegistry::IsAvailable(int slot) const {
+  return state_.window(slot);
+}
 
 void WindowRegistry::FindFormToBuildItems() {
   for (int slot = kFirstSlot; slot <= kLastSlot; ++slot) {

@@ -21,12 +21,12 @@ class WindowRegistry {
   void enterSequence(Screen& screen) { sequence_.push_back(&screen); }
   void shown(Screen& screen);  // a screen came to the front
 
-  void AddData(int slot);           // marks the slot open; outside 1 to 6 a fault
-  void RemoveData(int slot);        // marks it closed; likewise
+  void AddData(int slot);            // marks the slot open; outside 1 to 6 a fault
+  void RemoveData(int slot);         // marks it closed; likewise
   bool IsAvailable(int slot) const;  // likewise
-  void FindFormToBuildItems();      // rebuilds the Window menu of each open window
-  void LoadOrUnload();              // the input window alone stays, or comes
-  void RaiseScreen(int slot);       // brings a slot's window to the front; none for a slot that has no window open
+  void FindFormToBuildItems();       // rebuilds the Window menu of each open window
+  void LoadOrUnload();               // the input window alone stays, or comes
+  void RaiseScreen(int slot);        // brings a slot's window to the front; none for a slot that has no window open
 
  private:
   struct Slot {

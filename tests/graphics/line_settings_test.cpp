@@ -20,9 +20,10 @@ struct LineSettingsTest : testing::Test {
 
 TEST_F(LineSettingsTest, haveTheirDefaultsInAnEmptyStore) {
   init();
-  const std::vector<std::uint32_t> expected = {
-      9426414,  0,        255,      0,       16711680, 255,     16711680, 0,       13457769, 13749760, 65535,   33023,   2970272,
-      2990162,  4163021,  6303920,  9408444, 6053069,  2970272, 4163021,  0,       13850042, 13382297, 14204888, 6191499, 10865101};
+  const std::vector<std::uint32_t> expected = {9426414,  0,        255,      0,       16711680, 255,     16711680,
+                                               0,        13457769, 13749760, 65535,   33023,    2970272, 2990162,
+                                               4163021,  6303920,  9408444,  6053069, 2970272,  4163021, 0,
+                                               13850042, 13382297, 14204888, 6191499, 10865101};
   EXPECT_EQ(std::vector<std::uint32_t>(lines.ColorList.begin(), lines.ColorList.begin() + 26), expected);
   EXPECT_EQ(lines.WidthList, (std::array<int, 14>{0, 2, 2, 2, 2, 2, 2, 1, 2, 2, 2, 1, 1, 1}));
   EXPECT_EQ(lines.ComboList, (std::array<int, 14>{}));

@@ -5,8 +5,7 @@
 namespace kestra {
 namespace {
 
-constexpr const char* kOwner =
-    "This is the flag file of a valid QUIL project directory, the owner is\r\nTORVE\r\n";
+constexpr const char* kOwner = "This is the flag file of a valid QUIL project directory, the owner is\r\nTORVE\r\n";
 
 struct NewProject : testing::Test {
   RunningDesk desk;

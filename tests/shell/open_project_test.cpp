@@ -98,7 +98,8 @@ TEST_F(OpenProject, thatAnotherProgramHasIsForLookingOnly) {
   desk.memory.holdLock("/home/a/owner", "program kestra, process 7, of user ann");
   open("/home/a");
   expectBox(
-      "This project is open in program kestra, process 7, of user ann. You can look at it here, but nothing in it can be "
+      "This project is open in program kestra, process 7, of user ann. You can look at it here, but nothing in it can "
+      "be "
       "changed.");
   EXPECT_EQ(desk.state.projectDir, "/home/a");
   EXPECT_TRUE(desk.state.projectReadOnly);

@@ -87,8 +87,8 @@ struct BrokenSettings : MemorySettings {
 TEST(RecentProjectsSave, saysWhenTheSettingsCannotBeWritten) {
   ScriptedDesk desk;
   BrokenSettings broken;
-  Ports ports{desk.boxes, desk.dialogs, broken, desk.clipboard, desk.processes, desk.files, desk.events, desk.beeper,
-              desk.entropy, desk.clock, desk.help};
+  Ports ports{desk.boxes,  desk.dialogs, broken,       desk.clipboard, desk.processes, desk.files,
+              desk.events, desk.beeper,  desk.entropy, desk.clock,     desk.help};
   Application app(ports, "/app");
   app.shell.startUp("");
   app.shell.topScreen.mnuExit.click();
