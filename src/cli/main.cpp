@@ -1,0 +1,63 @@
+#include <iostream>
+
+#include "app/application.h"
+#include "automation/driver.h"
+#include "base/paths.h"
+#include "cli/native_desk.h"
+#include "cli/options.h"
+#include "platform/native/terminal_dialogs.h"
+#include "platform/native/terminal_message_boxes.h"
+
+namespace {
+
+using namespace kestra;
+
+constexpr int kFailed = 1;
+
+// Makes a project by the screen that a person would use.
+int makeProject(const CliOptions& options) {
+  NativeDesk desk(options);
+  TerminalMessageBoxes boxes(std::cerr, options.yes);
+  TerminalDialogs dialogs(std::cerr);
+  TerminalBeeper beeper;
+  Application application(desk.ports(boxes, dialogs, beeper), desk.applicationDirectory());
+  Shell& shell = application.shell;
+  const std::string path = absolutePath(options.directory, desk.files().currentDirectory());
+  shell.startUp("");
+  shell.topScreen.mnuNewProject.click();
+  shell.newProject.dirList.setPath(std::string(directoryOf(path)));
+  shell.newProject.txtEnterName.setText(std::string(ParsePathName(path)));
+  shell.newProject.cmdOK.click();
+  const bool made = application.state.projectDir == path;
+  shell.end();
+  if (!made) return kFailed;
+  std::cout << path << '\n';
+  return 0;
+}
+
+int drive(const CliOptions& options) {
+  NativeDesk desk(options);
+  Conversation conversation(std::cerr);
+  Application application(desk.ports(conversation, conversation, conversation), desk.applicationDirectory());
+  Driver driver(application, conversation);
+  application.shell.startUp(options.controlFile);
+  if (application.shell.ended()) return kFailed;
+  driver.run(std::cin, std::cout);
+  if (!application.shell.ended()) application.shell.end();
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  int exitCode = 0;
+  const auto options = parseCommandLine(argc, argv, std::cout, std::cerr, exitCode);
+  if (!options) return exitCode;
+  try {
+    return options->command == CliCommand::newProject ? makeProject(*options) : drive(*options);
+  } catch (const std::exception& fault) {
+    std::cerr << "kestra: " << fault.what() << '\n';
+    return kFailed;
+  }
+}

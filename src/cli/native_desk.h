@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "cli/options.h"
+#include "platform/ini_settings.h"
+#include "platform/native/posix_file_system.h"
+#include "platform/native/posix_process_host.h"
+#include "platform/native/system_ports.h"
+#include "platform/scripted.h"
+
+namespace kestra {
+
+// The ports of this machine for a program without a window. The clipboard is the program's own, and help is noted
+// rather than shown. Who talks to the user stands elsewhere: boxes, dialogs and beeper are handed in.
+class NativeDesk {
+ public:
+  explicit NativeDesk(const CliOptions& options);
+
+  Ports ports(MessageBoxes& boxes, Dialogs& dialogs, Beeper& beeper);
+  const std::string& applicationDirectory() const { return applicationDirectory_; }
+  FileSystem& files() { return files_; }
+
+ private:
+  PosixFileSystem files_;
+  std::string applicationDirectory_;
+  IniSettings settings_;
+  MemoryClipboard clipboard_;
+  PosixProcessHost processes_;
+  TerminalEventPump events_;
+  SystemEntropy entropy_;
+  SystemClock clock_;
+  RecordingHelpViewer help_;
+};
+
+}  // namespace kestra

@@ -1,0 +1,88 @@
+#include "cli/options.h"
+
+#include <CLI/CLI.hpp>
+#include <ostream>
+
+namespace kestra {
+namespace {
+
+constexpr int kWrongUsage = 2;
+
+// The command line's grammar, writing into `options`.
+struct Grammar {
+  explicit Grammar(CliOptions& options);
+
+  CLI::App app{"Overtopping and breach of embankment dams, without a window", "kestra"};
+  CLI::App* newProject = app.add_subcommand("new", "make a project directory");
+  CLI::App* drive = app.add_subcommand("drive", "carry out requests, one JSON object a line, from standard input");
+  CLI::App* help = app.add_subcommand("help", "tell about the commands");
+  std::string helpTopic;
+  bool version = false;
+};
+
+Grammar::Grammar(CliOptions& options) {
+  app.fallthrough();
+  app.require_subcommand(0, 1);
+  app.add_flag("--version", version, "print the version");
+  app.add_option("--app-dir", options.appDirectory, "directory of the external programs")->type_name("DIR");
+  app.add_option("--settings", options.settingsFile, "settings file")->type_name("FILE");
+  app.add_flag("--yes", options.yes, "answer questions with Yes");
+  newProject->add_option("DIR", options.directory, "the directory to make")->required()->type_name("");
+  drive->add_option("CONTROL_FILE", options.controlFile, "the control file to open")->type_name("");
+  help->add_option("COMMAND", helpTopic, "the command to tell about")->type_name("");
+}
+
+int tellHelp(const Grammar& grammar, std::ostream& out, std::ostream& err) {
+  if (grammar.helpTopic.empty()) {
+    out << grammar.app.help();
+    return 0;
+  }
+  const auto named = [&grammar](const CLI::App* command) { return command->get_name() == grammar.helpTopic; };
+  for (const CLI::App* command : grammar.app.get_subcommands(named)) {
+    out << command->help("kestra");
+    return 0;
+  }
+  err << "kestra: no command named " << grammar.helpTopic << '\n';
+  return kWrongUsage;
+}
+
+}  // namespace
+
+std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, std::ostream& out, std::ostream& err,
+                                           int& exitCode) {
+  CliOptions options;
+  Grammar grammar(options);
+  exitCode = 0;
+  try {
+    grammar.app.parse(argc, argv);
+  } catch (const CLI::CallForHelp&) {
+    for (const CLI::App* command : grammar.app.get_subcommands()) {
+      out << command->help("kestra");
+      return std::nullopt;
+    }
+    out << grammar.app.help();
+    return std::nullopt;
+  } catch (const CLI::Error& fault) {
+    err << "kestra: " << fault.what() << "\nRun kestra help for the commands.\n";
+    exitCode = kWrongUsage;
+    return std::nullopt;
+  }
+  if (grammar.version) {
+    out << "Kestra B " << KESTRA_VERSION << '\n';
+    return std::nullopt;
+  }
+  if (grammar.help->parsed()) {
+    exitCode = tellHelp(grammar, out, err);
+    return std::nullopt;
+  }
+  if (grammar.newProject->parsed()) {
+    options.command = CliCommand::newProject;
+    return options;
+  }
+  if (grammar.drive->parsed()) return options;
+  err << grammar.app.help();
+  exitCode = kWrongUsage;
+  return std::nullopt;
+}
+
+}  // namespace kestra
