@@ -17,8 +17,9 @@ FileStatus statusOf(const Node& node) {
 
 void gatherPaths(const Node& directory, const std::string& path, std::vector<std::string>& paths) {
   for (const auto& [name, child] : directory.children) {
-    paths.push_back(joinPath(path, name));
-    gatherPaths(*child, paths.back(), paths);
+    const std::string below = joinPath(path, name);
+    paths.push_back(below);
+    gatherPaths(*child, below, paths);
   }
 }
 

@@ -53,7 +53,7 @@ std::vector<std::string> mountRoots(std::string_view mounts) {
     takeField(line);
     const std::string_view place = takeField(line);
     const std::string_view type = takeField(line);
-    if (place.starts_with('/') && holdsFiles(type)) roots.push_back(decoded(place));
+    if (place.starts_with('/') && !type.empty() && holdsFiles(type)) roots.push_back(decoded(place));
   }
   std::sort(roots.begin(), roots.end());
   roots.erase(std::unique(roots.begin(), roots.end()), roots.end());

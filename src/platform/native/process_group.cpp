@@ -2,9 +2,10 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/pidfd.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace kestra {
 namespace {
@@ -33,7 +34,7 @@ ProcessGroup::ProcessGroup(const SpawnRequest& request) {
   startGuard();
   leader_ = spawn(request);
   if (leader_.error != 0) return;
-  watch_ = Descriptor(::pidfd_open(leader_.process, 0));
+  watch_ = Descriptor(static_cast<int>(::syscall(SYS_pidfd_open, leader_.process, 0)));
   if (!guardLine_) return;
   const std::string line = std::to_string(leader_.process) + "\n";
   (void)untilDone([&] { return ::send(guardLine_.number(), line.data(), line.size(), MSG_NOSIGNAL); });
