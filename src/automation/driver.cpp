@@ -101,6 +101,8 @@ std::string Driver::answerTo(std::string_view line) {
   Json request;
   try {
     request = Json::parse(line);
+  } catch (const Json::parse_error& fault) {
+    return oneLine(failed("malformed JSON at column " + std::to_string(fault.byte)));
   } catch (const Json::exception& fault) {
     return oneLine(failed(std::string("malformed JSON: ") + fault.what()));
   }

@@ -21,8 +21,11 @@ struct Grammar {
 };
 
 Grammar::Grammar(CliOptions& options) {
-  app.fallthrough();
   app.require_subcommand(0, 1);
+  for (CLI::App* command : {newProject, drive, help}) {
+    command->fallthrough();
+    command->footer("Options of every command: --app-dir DIR, --settings FILE");
+  }
   app.add_flag("--version", version, "print the version");
   app.add_option("--app-dir", options.appDirectory, "directory of the external programs")->type_name("DIR");
   app.add_option("--settings", options.settingsFile, "settings file")->type_name("FILE");
@@ -32,9 +35,15 @@ Grammar::Grammar(CliOptions& options) {
   help->add_option("COMMAND", helpTopic, "the command to tell about")->type_name("");
 }
 
+// Help on the whole program; a grammar that has parsed a command would tell of that command alone.
+std::string generalHelp() {
+  CliOptions unused;
+  return Grammar(unused).app.help();
+}
+
 int tellHelp(const Grammar& grammar, std::ostream& out, std::ostream& err) {
   if (grammar.helpTopic.empty()) {
-    out << grammar.app.help();
+    out << generalHelp();
     return 0;
   }
   const auto named = [&grammar](const CLI::App* command) { return command->get_name() == grammar.helpTopic; };
@@ -60,7 +69,7 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
       out << command->help("kestra");
       return std::nullopt;
     }
-    out << grammar.app.help();
+    out << generalHelp();
     return std::nullopt;
   } catch (const CLI::Error& fault) {
     err << "kestra: " << fault.what() << "\nRun kestra help for the commands.\n";
@@ -80,7 +89,7 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
     return options;
   }
   if (grammar.drive->parsed()) return options;
-  err << grammar.app.help();
+  err << generalHelp();
   exitCode = kWrongUsage;
   return std::nullopt;
 }

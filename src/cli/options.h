@@ -10,8 +10,8 @@ enum class CliCommand { newProject, drive };
 
 struct CliOptions {
   CliCommand command = CliCommand::drive;
-  std::string directory;    // new: of the project
-  std::string controlFile;  // drive: as it stands on the command line; empty: none
+  std::string directory;     // new: of the project
+  std::string controlFile;   // drive: as it stands on the command line; empty: none
   std::string appDirectory;  // empty: that of the program
   std::string settingsFile;  // empty: the user's
   bool yes = false;
