@@ -241,22 +241,18 @@ void setTableCells(Control& control, const Fields& request) {
   const int row = request.integer("row");
   const int column = request.integer("column");
   const Json& values = request.list("values");
+  std::vector<std::vector<std::string>> texts;
   int r = row;
   for (const Json& line : values) {
     const int width = static_cast<int>(asList(line, "a row of \"values\"").size());
     if (width > 0 && !(table.holds({r, column}) && table.holds({r, column + width - 1}))) {
       refuse(control, "does not hold this block");
     }
-    for (const Json& cell : line) asText(cell, "a cell of \"values\"");
+    texts.emplace_back();
+    for (const Json& cell : line) texts.back().push_back(asText(cell, "a cell of \"values\""));
     ++r;
   }
-  r = row;
-  for (const Json& line : values) {
-    int c = column;
-    for (const Json& cell : line) table.userSetCell(r, c++, cell.get<std::string>());
-    ++r;
-  }
-  table.userEdited();
+  table.userSetBlock({row, column}, texts);
 }
 
 void setTableCursor(Control& control, const Fields& request) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/undo_history.h"
+
 namespace kestra {
 
 CheckBox::CheckBox(Screen& screen, std::string name, std::string caption, bool checked)
@@ -11,11 +13,13 @@ CheckBox::CheckBox(Screen& screen, std::string name, std::string caption, bool c
       designChecked_(checked) {}
 
 void CheckBox::setChecked(bool checked) {
+  if (UndoHistory* kept = history()) kept->keep(checked_, this, Property::value, true);
   checked_ = checked;
   changed(Property::value);
 }
 
 void CheckBox::userSet(bool checked) {
+  const Gesture gesture(history(), nullptr);
   setChecked(checked);
   edited();
   if (onClick) onClick();
@@ -34,6 +38,7 @@ void CheckBox::restoreDesign() {
 void OptionGroup::clearOthers(const OptionButton& selected) {
   for (OptionButton* option : options_) {
     if (option == &selected || !option->selected_) continue;
+    option->keepSelected();
     option->selected_ = false;
     option->changed(Property::value);
   }
@@ -47,13 +52,19 @@ OptionButton::OptionButton(Screen& screen, std::string name, OptionGroup& group,
   group_.enter(*this);
 }
 
+void OptionButton::keepSelected() {
+  if (UndoHistory* kept = history()) kept->keep(selected_, this, Property::value, true);
+}
+
 void OptionButton::setSelected(bool selected) {
+  keepSelected();
   selected_ = selected;
   if (selected) group_.clearOthers(*this);
   changed(Property::value);
 }
 
 void OptionButton::userSelect() {
+  const Gesture gesture(history(), nullptr);
   setSelected(true);
   edited();
   if (onClick) onClick();
@@ -74,13 +85,17 @@ ChoiceList::ChoiceList(Screen& screen, std::string name, ControlKind kind, std::
     : Control(screen, std::move(name), kind), items_(std::move(items)), index_(index), designIndex_(index) {}
 
 void ChoiceList::setItems(std::vector<std::string> items) {
+  setIndex(-1);
+  if (UndoHistory* kept = history()) kept->keep(items_, this, Property::items, true);
   items_ = std::move(items);
-  index_ = -1;
-  typed_.clear();
   changed(Property::items);
 }
 
 void ChoiceList::setIndex(int index) {
+  if (UndoHistory* kept = history()) {
+    kept->keep(typed_, this, Property::value, true);
+    kept->keep(index_, this, Property::value, true);
+  }
   index_ = index >= 0 && index < static_cast<int>(items_.size()) ? index : -1;
   typed_.clear();
   changed(Property::value);
@@ -97,6 +112,7 @@ void ChoiceList::setText(std::string_view text) {
 
 bool ChoiceList::userSelect(int index) {
   if (index < 0 || index >= static_cast<int>(items_.size())) return false;
+  const Gesture gesture(history(), nullptr);
   setIndex(index);
   edited();
   if (onClick) onClick();
@@ -106,6 +122,7 @@ bool ChoiceList::userSelect(int index) {
 bool ChoiceList::userSelect(std::string_view text) {
   const int index = indexOf(text);
   if (index >= 0 || !editable_) return userSelect(index);
+  const Gesture gesture(history(), nullptr);
   setText(text);
   edited();
   if (onClick) onClick();
@@ -113,6 +130,7 @@ bool ChoiceList::userSelect(std::string_view text) {
 }
 
 void ChoiceList::userDoubleClick() {
+  const Gesture gesture(history(), nullptr);
   if (onDoubleClick) onDoubleClick();
 }
 

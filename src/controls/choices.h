@@ -54,6 +54,8 @@ class OptionButton : public Control {
 
  private:
   friend class OptionGroup;
+  void keepSelected();
+
   OptionGroup& group_;
   bool selected_;
   bool designSelected_;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/screen.h"
+#include "controls/undo_history.h"
 
 namespace kestra {
 
@@ -21,6 +22,7 @@ Control::Control(Screen& screen, std::string name, ControlKind kind, std::string
 }
 
 void Control::setCaption(std::string caption) {
+  if (UndoHistory* kept = history()) kept->keep(look_.caption, this, Property::caption, false);
   look_.caption = std::move(caption);
   changed(Property::caption);
 }
@@ -30,11 +32,13 @@ bool Control::visible() const {
 }
 
 void Control::setVisible(bool visible) {
+  if (UndoHistory* kept = history()) kept->keep(look_.visible, this, Property::visible, false);
   look_.visible = visible;
   changed(Property::visible);
 }
 
 void Control::setEnabled(bool enabled) {
+  if (UndoHistory* kept = history()) kept->keep(look_.enabled, this, Property::enabled, false);
   look_.enabled = enabled;
   changed(Property::enabled);
 }
@@ -52,6 +56,7 @@ void Control::userFocus() {
 }
 
 void Control::userLeave() {
+  const Gesture gesture(history(), nullptr);
   if (screen_.focused() == this) screen_.setFocused(nullptr);
   if (onLeave) onLeave();
 }
@@ -67,6 +72,10 @@ void Control::userKey(const Key& key) {
 
 void Control::changed(Property property) {
   screen_.tell(*this, property);
+}
+
+UndoHistory* Control::history() const {
+  return screen_.history();
 }
 
 void Control::edited() {

@@ -7,6 +7,7 @@
 namespace kestra {
 
 class Screen;
+class UndoHistory;
 
 enum class ControlKind {
   text,
@@ -72,12 +73,16 @@ class Control {
   void takeFocus();                      // the program puts the focus here
   virtual void userKey(const Key& key);  // a key press while it has the focus; ignored unless the kind takes keys
 
+  void tellChanged(Property property) { changed(property); }  // to the observers, on behalf of who changed it
+
   std::function<void()> onFocus;
   std::function<void()> onLeave;
 
  protected:
   void changed(Property property);
   void edited();  // tells the screen that the user changed its input
+  // Where a gesture's changes are kept; null when the control's screen holds no input, or nothing is recorded.
+  UndoHistory* history() const;
 
  private:
   struct Look {

@@ -68,6 +68,10 @@ void Screen::tellEdited(Control& control) {
   if (host_ != nullptr) host_->tellEdited(*this, control);
 }
 
+UndoHistory* Screen::history() const {
+  return host_ != nullptr && holdsInput() ? host_->history() : nullptr;
+}
+
 void Screen::tellScreen() {
   for (ScreenObserver* observer : observers_) observer->screenChanged(*this);
 }

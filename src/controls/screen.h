@@ -11,6 +11,7 @@
 namespace kestra {
 
 class ScreenHost;
+class UndoHistory;
 
 // Hears what happens on screens: a window, a recorder. Every call has an empty default.
 class ScreenObserver {
@@ -79,6 +80,7 @@ class Screen {
   void setFocused(Control* control);
   void tell(Control& control, Property property);
   void tellEdited(Control& control);
+  UndoHistory* history() const;  // null when this screen holds no input, or the host keeps no history
   void tellScreen();
   void keepDesign();
   void restoreDesign();

@@ -40,6 +40,8 @@ class ScreenHost {
   const std::vector<Screen*>& shown() const { return shown_; }  // front one first
   Control* focus() const;                                       // null when its screen is not on show
 
+  void setHistory(UndoHistory* history) { history_ = history; }
+  UndoHistory* history() const { return history_; }
   void setModalLoop(ModalLoop* loop) { modalLoop_ = loop; }
   void tellEdited(Screen& screen, Control& control) const;
 
@@ -57,6 +59,7 @@ class ScreenHost {
   std::vector<Screen*> shown_;
   Control* focus_ = nullptr;
   ModalLoop* modalLoop_ = nullptr;
+  UndoHistory* history_ = nullptr;
 };
 
 }  // namespace kestra

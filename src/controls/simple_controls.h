@@ -27,9 +27,7 @@ class Command : public Control {
   using Control::Control;
 
   // Runs the command. The caller has made sure that it is visible and enabled.
-  void click() {
-    if (onClick) onClick();
-  }
+  void click();
   bool hasAction() const { return static_cast<bool>(onClick); }
 
   std::function<void()> onClick;

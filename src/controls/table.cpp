@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/undo_history.h"
+
 namespace kestra {
 
 Table::Table(Screen& screen, std::string name, Size size)
@@ -30,15 +32,17 @@ const std::string& Table::cell(int row, int column) const {
 
 void Table::setCell(int row, int column, std::string text) {
   if (!holds({row, column})) return;
-  cells_[indexOf(row, column)] = std::move(text);
+  std::string& cell = cells_[indexOf(row, column)];
+  if (cell == text) return;
+  if (UndoHistory* kept = history()) kept->keepCell(*this, cell);
+  cell = std::move(text);
   changed(Property::cells);
 }
 
 void Table::clearData() {
   for (int row = size_.fixedRows; row < size_.rows; ++row) {
-    for (int column = size_.fixedColumns; column < size_.columns; ++column) cells_[indexOf(row, column)].clear();
+    for (int column = size_.fixedColumns; column < size_.columns; ++column) setCell(row, column, {});
   }
-  changed(Property::cells);
   setCursor({size_.fixedRows, size_.fixedColumns});
 }
 
@@ -61,8 +65,14 @@ CellPosition Table::lastSelected() const {
   return {std::max(cursor_.row, corner_.row), std::max(cursor_.column, corner_.column)};
 }
 
-void Table::userSetCell(int row, int column, std::string text) {
-  setCell(row, column, std::move(text));
+void Table::userSetBlock(CellPosition at, const std::vector<std::vector<std::string>>& texts) {
+  const Gesture gesture(history(), nullptr);
+  for (std::size_t r = 0; r < texts.size(); ++r) {
+    for (std::size_t c = 0; c < texts[r].size(); ++c) {
+      setCell(at.row + static_cast<int>(r), at.column + static_cast<int>(c), texts[r][c]);
+    }
+  }
+  userEdited();
 }
 
 void Table::userEdited() {
@@ -76,10 +86,12 @@ void Table::userSelect(CellPosition from, CellPosition to) {
 }
 
 void Table::userKey(const Key& key) {
+  const Gesture gesture(history(), this, indexOf(cursor_.row, cursor_.column));
   if (onKeyPress) onKeyPress(key);
 }
 
 void Table::userDoubleClick() {
+  const Gesture gesture(history(), nullptr);
   if (onDoubleClick) onDoubleClick();
 }
 

@@ -58,8 +58,8 @@ class Table : public Control {
   void setCentred(int column, bool centred) { centred_[static_cast<std::size_t>(column)] = centred; }
   bool centred(int column) const { return centred_[static_cast<std::size_t>(column)]; }
 
-  void userSetCell(int row, int column, std::string text);  // counts as an edit; the caller calls userEdited at the end
-  void userEdited();
+  void userSetBlock(CellPosition at, const std::vector<std::vector<std::string>>& texts);  // one edit
+  void userEdited();                                    // the user has changed cells in some other way
   void userSelect(CellPosition from, CellPosition to);  // by mouse or arrow keys
   void userKey(const Key& key) override;
   void userDoubleClick();

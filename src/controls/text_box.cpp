@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "controls/undo_history.h"
 
 namespace kestra {
 
@@ -10,18 +11,21 @@ TextBox::TextBox(Screen& screen, std::string name, std::string text, int maxLeng
     : Control(screen, std::move(name), ControlKind::text), text_(std::move(text)), maxLength_(maxLength) {}
 
 void TextBox::setText(std::string text) {
+  if (UndoHistory* kept = history()) kept->keep(text_, this, Property::value, true);
   text_ = std::move(text);
   changed(Property::value);
 }
 
 void TextBox::userReplace(std::string_view text) {
   if (locked_) return;
+  const Gesture gesture(history(), nullptr);
   setText(std::string(maxLength_ > 0 ? charsFrom(text, 0, static_cast<std::size_t>(maxLength_)) : text));
   edited();
   if (onChange) onChange();
 }
 
 void TextBox::userKey(const Key& key) {
+  const Gesture gesture(history(), this);
   if (onKeyPress && !onKeyPress(key)) return;
   if (key.character == kBackspace) {
     if (!text_.empty()) userReplace(charsFrom(text_, 0, charCount(text_) - 1));

@@ -14,6 +14,10 @@ frmKestra::frmKestra(ScreenContext& context, frmTopScreen& top)
   }
   for (Menu& entry : mnuWindowsArray) entry.setVisible(false);
   mnuContents.onClick = [this] { context_.ports.help.showTopic(""); };
+  cmdNext.onClick = [this] {
+    context_.host.hide(*this);
+    if (Screen* first = context_.host.find("frmProjectInformation")) context_.host.show(*first);
+  };
   mnuExit.onClick = [this] {
     if (onExit) onExit();
   };

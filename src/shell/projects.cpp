@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/paths.h"
+#include "controls/undo_history.h"
 #include "shell/project_directory.h"
 
 namespace kestra {
@@ -36,6 +37,7 @@ void UnloadAllScreens(ScreenContext& context) {
     if (Screen* screen = context.host.find(name)) context.host.unload(*screen);
   }
   context.state.bExiting = false;
+  if (UndoHistory* history = context.host.history()) history->clear();
 }
 
 void Projects::enter(const std::string& directory, const std::string& frameTitle) {

@@ -21,6 +21,7 @@ constexpr const char* kDisclaimer =
 Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     : topScreen(context, applicationDirectory),
       inputWindow(context, topScreen),
+      input(context, inputWindow),
       projects(context, topScreen, inputWindow),
       newProject(context, projects),
       openProject(context, projects),
@@ -55,6 +56,9 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
                                                        &deleteProject, &about, &disclaimer}) {
     host.enter(*screen);
   }
+  input.enterAll(host);
+  for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);
+  host.setHistory(&history);
 }
 
 void Shell::startUp(const std::string& commandLine) {

@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "controls/undo_history.h"
 #include "graphics/line_settings.h"
+#include "screens/input_screen_set.h"
 #include "screens/screen_context.h"
 #include "screens/text_screen.h"
 #include "shell/frm_kestra.h"
@@ -20,6 +22,8 @@ class Shell {
 
   frmTopScreen topScreen;
   frmKestra inputWindow;
+  InputScreenSet input;
+  UndoHistory history;  // of the input screens
   Projects projects;
   frmNewProject newProject;
   frmOpenProject openProject;

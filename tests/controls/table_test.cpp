@@ -50,9 +50,8 @@ TEST(Table, countsOneEditForABlock) {
   int edits = 0;
   stage.host.onEdited = [&edits](Screen&, Control&) { ++edits; };
   stage.host.enter(stage.screen);
-  table.userSetCell(1, 1, "a");
-  table.userSetCell(1, 2, "b");
-  table.userEdited();
+  table.userSetBlock({1, 1}, {{"a", "b"}, {"c"}});
+  EXPECT_EQ(table.cell(2, 1), "c");
   EXPECT_EQ(edits, 1);
 }
 

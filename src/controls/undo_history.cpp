@@ -1,0 +1,136 @@
+#include "controls/undo_history.h"
+
+#include "controls/screen.h"
+#include "controls/table.h"
+
+namespace kestra {
+namespace {
+
+// Cells of one table, in the order in which they were written.
+class KeptCells : public UndoChange {
+ public:
+  explicit KeptCells(Table& table) : table_(table) {}
+
+  bool isOf(const Table& table) const { return &table == &table_; }
+  void add(std::string& cell) { cells_.emplace_back(&cell, cell); }
+  void swap() override {
+    const auto exchange = [](auto& kept) { std::swap(*kept.first, kept.second); };
+    if (backwards_) {
+      for (auto at = cells_.rbegin(); at != cells_.rend(); ++at) exchange(*at);
+    } else {
+      for (auto& kept : cells_) exchange(kept);
+    }
+    backwards_ = !backwards_;
+    undo_detail::tell(table_, Property::cells);
+  }
+  std::size_t bytes() const override { return sizeof *this + cells_.capacity() * sizeof cells_[0]; }
+
+ private:
+  Table& table_;
+  std::vector<std::pair<std::string*, std::string>> cells_;
+  bool backwards_ = true;  // undoing comes first
+};
+
+}  // namespace
+
+namespace undo_detail {
+
+void tell(Control& control, Property property) { control.tellChanged(property); }
+
+}  // namespace undo_detail
+
+void UndoHistory::beginGesture(const Control* place, std::size_t cell) {
+  if (depth_++ > 0) return;
+  open_ = Step();
+  open_.place = place;
+  open_.cell = cell;
+}
+
+void UndoHistory::endGesture() {
+  if (--depth_ > 0 || applying_) return;
+  Step step = std::move(open_);
+  open_ = Step();
+  if (step.hasData) take(std::move(step));
+}
+
+void UndoHistory::keepCell(Table& table, std::string& cell) {
+  if (!recording()) return;
+  auto* last = open_.changes.empty() ? nullptr : dynamic_cast<KeptCells*>(open_.changes.back().get());
+  if (last == nullptr || !last->isOf(table)) {
+    auto cells = std::make_unique<KeptCells>(table);
+    last = cells.get();
+    add(std::move(cells), true);
+  }
+  last->add(cell);
+}
+
+void UndoHistory::add(std::unique_ptr<UndoChange> change, bool isData) {
+  open_.changes.push_back(std::move(change));
+  open_.hasData = open_.hasData || isData;
+}
+
+// Takes a finished step in, joined to the one before it when both are keys typed into one place.
+void UndoHistory::take(Step step) {
+  for (const auto& change : step.changes) step.bytes += change->bytes();
+  bytes_ += step.bytes;
+  const bool joins = step.place != nullptr && undone_.empty() && !done_.empty() && done_.back().place == step.place &&
+                     done_.back().cell == step.cell;
+  undone_.clear();
+  if (joins) {
+    Step& last = done_.back();
+    last.bytes += step.bytes;
+    for (auto& change : step.changes) last.changes.push_back(std::move(change));
+  } else {
+    done_.push_back(std::move(step));
+  }
+  trim();
+}
+
+void UndoHistory::trim() {
+  while (done_.size() > kMostSteps || (bytes_ > kMostBytes && done_.size() > 1)) {
+    bytes_ -= done_.front().bytes;
+    done_.pop_front();
+  }
+}
+
+void UndoHistory::swapAll(Step& step, bool backwards) {
+  if (backwards) {
+    for (auto at = step.changes.rbegin(); at != step.changes.rend(); ++at) (*at)->swap();
+  } else {
+    for (auto& change : step.changes) change->swap();
+  }
+}
+
+bool UndoHistory::undo() {
+  if (done_.empty()) return false;
+  applying_ = true;
+  Step step = std::move(done_.back());
+  done_.pop_back();
+  swapAll(step, true);
+  bytes_ -= step.bytes;
+  step.place = nullptr;
+  undone_.push_back(std::move(step));
+  applying_ = false;
+  return true;
+}
+
+bool UndoHistory::redo() {
+  if (undone_.empty()) return false;
+  applying_ = true;
+  Step step = std::move(undone_.back());
+  undone_.pop_back();
+  swapAll(step, false);
+  bytes_ += step.bytes;
+  done_.push_back(std::move(step));
+  applying_ = false;
+  return true;
+}
+
+void UndoHistory::clear() {
+  done_.clear();
+  undone_.clear();
+  open_ = Step();
+  bytes_ = 0;
+}
+
+}  // namespace kestra

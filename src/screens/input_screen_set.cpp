@@ -1,0 +1,15 @@
+#include "screens/input_screen_set.h"
+
+namespace kestra {
+
+InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : context{base, desktop, {}} {
+  context.screens.projectInformation = &projectInformation;
+}
+
+void InputScreenSet::enterAll(ScreenHost& host) {
+  for (Screen* screen : sequence()) host.enter(*screen);
+}
+
+std::vector<Screen*> InputScreenSet::sequence() { return {&projectInformation}; }
+
+}  // namespace kestra

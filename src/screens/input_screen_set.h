@@ -1,0 +1,20 @@
+#pragma once
+
+#include "screens/frm_project_information.h"
+
+namespace kestra {
+
+// All input screens, made once and joined to each other.
+class InputScreenSet {
+ public:
+  InputScreenSet(ScreenContext& base, InputDesktop& desktop);
+
+  InputContext context;
+  frmProjectInformation projectInformation{context};
+
+  void enterAll(ScreenHost& host);
+  // Those of the Next sequence, in its order.
+  std::vector<Screen*> sequence();
+};
+
+}  // namespace kestra
