@@ -38,8 +38,7 @@ std::vector<std::string> kestra::fuzzSeeds() {
       "Window|Left|120|; comment\r\n[Window]\r\nLeft=1\r\nTop=2\r\n\r\n[Other]\r\nA=b\r\n",
       "window|NEW|C:\\new\\table|[Window]\nLeft=1\n[Other]\nA=\"x\\n\\\\\\\"\\t\"\n",
       "a]b|c=d|\" quoted \"|[\"a]b\"]\r\n\"c=d\"=\"\\\"\"\r\n\"[\"=1\r\n\";\"=2\r\n",
-      "|top||\xef\xbb\xbf"
-      "first=1\r\n[]\r\nsecond=2\r\n[a]\r\n[a]\r\nx=1\r\n[A]\r\nX=2",
+      "|top||\xef\xbb\xbfLeft=1\r\n[]\r\nsecond=2\r\n[a]\r\n[a]\r\nx=1\r\n[A]\r\nX=2",
       "Half|x|1|[Half\r\nkey=\"unfinished\r\nother=\"x\" y\r\n=nothing\r\nno equals sign\r\n\"k\" z=1\r\n[\"q] r",
       "z|nul|a\0b|[z]\r\nnul=\"a\0b\"\r\nlast=1"s,
   };

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string_view>
@@ -119,8 +120,11 @@ void runOne(const std::string& input) {
   LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
 }
 
+// Over what is there, cut to length after: some file systems wait for the disk when a file is emptied and written
+// again.
 void keep(const char* path, const std::string& input) {
-  std::ofstream(path, std::ios::binary) << input;
+  std::fstream(path, std::ios::binary | std::ios::in | std::ios::out) << input;
+  std::filesystem::resize_file(path, input.size());
 }
 
 int runMany(std::size_t runs, std::uint64_t seed, const char* kept) {
@@ -130,6 +134,7 @@ int runMany(std::size_t runs, std::uint64_t seed, const char* kept) {
   pool.emplace_back();
   const std::size_t seeds = pool.size();
   Random random(seed);
+  std::ofstream(kept).close();
   for (std::size_t run = 0; run < seeds + runs; ++run) {
     std::string input = pool[run < seeds ? run : random.below(pool.size())];
     if (run >= seeds) {

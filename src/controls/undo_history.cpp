@@ -35,7 +35,9 @@ class KeptCells : public UndoChange {
 
 namespace undo_detail {
 
-void tell(Control& control, Property property) { control.tellChanged(property); }
+void tell(Control& control, Property property) {
+  control.tellChanged(property);
+}
 
 }  // namespace undo_detail
 

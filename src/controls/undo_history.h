@@ -79,7 +79,9 @@ class UndoHistory {
 
 namespace undo_detail {
 
-inline std::size_t heldBytes(const std::string& value) { return sizeof value + value.capacity(); }
+inline std::size_t heldBytes(const std::string& value) {
+  return sizeof value + value.capacity();
+}
 template <class T>
 std::size_t heldBytes(const T& value) {
   return sizeof value;

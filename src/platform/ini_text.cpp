@@ -90,7 +90,7 @@ std::string takeText(std::string_view& text, std::string_view end) {
     }
   }
   const std::size_t at = end.empty() ? text.size() : std::min(text.find(end), text.size());
-  const std::string plain(trimBlanks(text.substr(0, at)));
+  std::string plain(trimBlanks(text.substr(0, at)));
   text.remove_prefix(std::min(at + end.size(), text.size()));
   return plain;
 }

@@ -11,6 +11,8 @@ frmProjectInformation::frmProjectInformation(InputContext& context)
   for (Control* option : {&optBreachAnalysis, &optNoBreachAnalysis}) option->standIn(frameBreach);
 }
 
-void frmProjectInformation::goNext() { moveTo(optNoBreachAnalysis.selected() ? "frmDamSurface" : "Properties"); }
+void frmProjectInformation::goNext() {
+  moveTo(optNoBreachAnalysis.selected() ? "frmDamSurface" : "Properties");
+}
 
 }  // namespace kestra

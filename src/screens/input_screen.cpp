@@ -23,7 +23,9 @@ InputScreen::InputScreen(InputContext& context, std::string name, std::string ti
   };
 }
 
-void InputScreen::goHome() { toInputWindow(); }
+void InputScreen::goHome() {
+  toInputWindow();
+}
 
 bool InputScreen::queryUnload(CloseReason reason, bool bExiting) {
   if (bExiting || reason == CloseReason::program) return true;
@@ -42,7 +44,9 @@ void InputScreen::moveTo(const std::string& name) {
   moveTo(*target);
 }
 
-void InputScreen::toInputWindow() { moveTo(context_.desktop.inputWindow()); }
+void InputScreen::toInputWindow() {
+  moveTo(context_.desktop.inputWindow());
+}
 
 void InputScreen::runSimulation() {
   toInputWindow();

@@ -29,10 +29,10 @@ class InputScreen : public Screen {
   virtual std::string helpTopic() const { return helpTopic_; }  // "html\StructureTable.htm"
   bool queryUnload(CloseReason reason, bool bExiting) override;
 
-  void moveTo(Screen& target);                  // shows it and hides this screen
-  void moveTo(const std::string& name);         // a screen by its name
-  void toInputWindow();                         // shows the input window and hides this screen
-  void runSimulation();                         // the same, then the build from another screen
+  void moveTo(Screen& target);           // shows it and hides this screen
+  void moveTo(const std::string& name);  // a screen by its name
+  void toInputWindow();                  // shows the input window and hides this screen
+  void runSimulation();                  // the same, then the build from another screen
   // A warning box under "Data Check", with which a check on entry speaks.
   void dataCheck(const std::string& text);
 

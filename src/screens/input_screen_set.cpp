@@ -10,6 +10,8 @@ void InputScreenSet::enterAll(ScreenHost& host) {
   for (Screen* screen : sequence()) host.enter(*screen);
 }
 
-std::vector<Screen*> InputScreenSet::sequence() { return {&projectInformation}; }
+std::vector<Screen*> InputScreenSet::sequence() {
+  return {&projectInformation};
+}
 
 }  // namespace kestra

@@ -109,14 +109,18 @@ std::string copiedText(const Table& table) {
   return text;
 }
 
-void copyBlock(const Table& table, Clipboard& clipboard) { clipboard.setText(copiedText(table)); }
+void copyBlock(const Table& table, Clipboard& clipboard) {
+  clipboard.setText(copiedText(table));
+}
 
 void cutBlock(Table& table, Clipboard& clipboard) {
   copyBlock(table, clipboard);
   deleteBlock(table);
 }
 
-void deleteBlock(Table& table) { writeBlock(table, firstData(table), blankSelection(table)); }
+void deleteBlock(Table& table) {
+  writeBlock(table, firstData(table), blankSelection(table));
+}
 
 void pasteText(Table& table, std::string_view text) {
   Block block;
@@ -133,13 +137,21 @@ void selectAllCells(Table& table) {
   table.userSelect({table.fixedRows(), table.fixedColumns()}, {table.rows() - 1, table.columns() - 1});
 }
 
-void insertCell(Table& table, PointDirection direction) { move(table, direction, false, 1); }
+void insertCell(Table& table, PointDirection direction) {
+  move(table, direction, false, 1);
+}
 
-void deleteCell(Table& table, PointDirection direction) { move(table, direction, false, -1); }
+void deleteCell(Table& table, PointDirection direction) {
+  move(table, direction, false, -1);
+}
 
-void insertPoint(Table& table, PointDirection direction) { move(table, direction, true, 1); }
+void insertPoint(Table& table, PointDirection direction) {
+  move(table, direction, true, 1);
+}
 
-void deletePoint(Table& table, PointDirection direction) { move(table, direction, true, -1); }
+void deletePoint(Table& table, PointDirection direction) {
+  move(table, direction, true, -1);
+}
 
 void numberColumns(Table& table) {
   for (int column = table.fixedColumns(); column < table.columns(); ++column) {

@@ -13,7 +13,9 @@ constexpr const char* kMissing = "This cell must contain data.";
 constexpr const char* kNotIncreasing = "Values must be increasing.";
 
 // A cell that holds one blank counts as empty.
-bool isEmpty(const std::string& text) { return text.empty() || text == " "; }
+bool isEmpty(const std::string& text) {
+  return text.empty() || text == " ";
+}
 
 }  // namespace
 
@@ -36,7 +38,9 @@ void TableEditor::moveTo(CellPosition at) {
   tempStr.clear();
 }
 
-void TableEditor::cursorOnFirstCell() { moveTo({table_.fixedRows(), table_.fixedColumns()}); }
+void TableEditor::cursorOnFirstCell() {
+  moveTo({table_.fixedRows(), table_.fixedColumns()});
+}
 
 bool TableEditor::takes(char32_t character) const {
   const bool plain = character < 0x80 && rules_.characters.find(static_cast<char>(character)) != std::string_view::npos;
@@ -140,7 +144,7 @@ const std::string& TableEditor::text(const Place& place) const {
 
 int TableEditor::points() const {
   return rules_.direction == PointDirection::downRows ? table_.rows() - table_.fixedRows()
-                                                       : table_.columns() - table_.fixedColumns();
+                                                      : table_.columns() - table_.fixedColumns();
 }
 
 }  // namespace kestra

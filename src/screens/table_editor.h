@@ -16,11 +16,11 @@ enum class PointDirection { alongColumns, downRows };
 // The rules by which keys edit a table.
 struct TableRules {
   PointDirection direction = PointDirection::downRows;
-  int values = 2;                    // of a point: its rows or columns behind the headings
+  int values = 2;  // of a point: its rows or columns behind the headings
   std::string_view characters = "0123456789.-";
-  bool increasing = false;           // the first value of a point is not below that of the point before
-  bool everyValueRequired = true;    // false: only the first value of a point has to be there
-  bool checksOnEnter = true;         // false: Enter only moves the cursor on
+  bool increasing = false;         // the first value of a point is not below that of the point before
+  bool everyValueRequired = true;  // false: only the first value of a point has to be there
+  bool checksOnEnter = true;       // false: Enter only moves the cursor on
 };
 
 // Edits the current cell of a table by key presses: there is no edit box, what is typed goes straight into the cell.
