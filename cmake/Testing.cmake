@@ -2,6 +2,9 @@
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
+# Every test is one of ctest's own, but under a sanitizer, where starting a process costs more than most tests do: there
+# a program is one (docs/decisions/one-test-a-process.md).
+#
 # kestra_test(folder SOURCES ... USES modules... [LIBRARIES ...])
 function(kestra_test folder)
   cmake_parse_arguments(T "" "" "SOURCES;USES;LIBRARIES" ${ARGN})
@@ -19,5 +22,9 @@ function(kestra_test folder)
   if(T_LIBRARIES)
     target_link_libraries(${target} PRIVATE ${T_LIBRARIES})
   endif()
-  gtest_discover_tests(${target} NO_PRETTY_VALUES TEST_PREFIX "${folder}/" DISCOVERY_MODE PRE_TEST)
+  if(KESTRA_SANITIZE)
+    add_test(NAME ${folder} COMMAND ${target} --gtest_brief=1)
+  else()
+    gtest_discover_tests(${target} NO_PRETTY_VALUES TEST_PREFIX "${folder}/" DISCOVERY_MODE PRE_TEST)
+  endif()
 endfunction()

@@ -12,5 +12,7 @@ if(KESTRA_SANITIZE)
 endif()
 if(KESTRA_TIDY)
   find_program(KESTRA_CLANG_TIDY clang-tidy REQUIRED)
-  set(CMAKE_CXX_CLANG_TIDY ${KESTRA_CLANG_TIDY} --quiet --warnings-as-errors=*)
+  # It is handed the options above, of which it does not know all.
+  set(CMAKE_CXX_CLANG_TIDY ${KESTRA_CLANG_TIDY} --quiet --warnings-as-errors=*
+    --extra-arg=-Wno-unknown-warning-option)
 endif()
