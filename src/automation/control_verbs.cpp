@@ -1,5 +1,8 @@
 #include "automation/control_verbs.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "base/text.h"
 #include "controls/canvas_control.h"
 #include "controls/choices.h"
@@ -105,36 +108,87 @@ void describeKind(const Control& control, Json& out) {
   }
 }
 
+// Each of these refuses a value that does not fit before the user has touched the control.
+void setText(Control& control, const Json& value) {
+  const std::string& text = asText(value, placeOf(control));
+  control.userFocus();
+  as<TextBox>(control).userReplace(text);
+}
+
 void setOption(Control& control, const Json& value) {
   if (!asBoolean(value, placeOf(control))) refuse(control, "is cleared by selecting another option");
+  control.userFocus();
   as<OptionButton>(control).userSelect();
 }
 
-void setChoice(Control& control, const Json& value) {
-  auto& choice = as<ChoiceList>(control);
-  const bool byIndex = value.is_object();
-  const bool found = byIndex ? choice.userSelect(Fields(value).integer("index"))
-                             : choice.userSelect(std::string_view(asText(value, placeOf(control))));
-  if (!found) refuse(control, "has no entry " + oneLine(value));
+void setCheck(Control& control, const Json& value) {
+  const bool checked = asBoolean(value, placeOf(control));
+  control.userFocus();
+  as<CheckBox>(control).userSet(checked);
 }
 
-void setDirectory(Control& control, const Json& value) {
-  const std::string& path = asText(value, placeOf(control));
-  if (!as<DirectoryList>(control).userChoose(path)) refuse(control, "cannot choose " + path + ": no such directory");
+void setChoiceByIndex(Control& control, const Json& value) {
+  auto& choice = as<ChoiceList>(control);
+  const int index = Fields(value).integer("index");
+  if (index < 0 || index >= static_cast<int>(choice.items().size())) refuse(control, "has no entry " + oneLine(value));
+  control.userFocus();
+  choice.userSelect(index);
+}
+
+void setChoice(Control& control, const Json& value) {
+  if (value.is_object()) return setChoiceByIndex(control, value);
+  auto& choice = as<ChoiceList>(control);
+  const std::string& text = asText(value, placeOf(control));
+  const auto& items = choice.items();
+  const bool offered = choice.editable() || std::find(items.begin(), items.end(), text) != items.end();
+  if (!offered) refuse(control, "has no entry " + oneLine(value));
+  control.userFocus();
+  choice.userSelect(std::string_view(text));
+}
+
+void setSlider(Control& control, const Json& value) {
+  const double number = asNumber(value, placeOf(control));
+  control.userFocus();
+  as<Slider>(control).userMove(number);
 }
 
 void setTabs(Control& control, const Json& value) {
-  if (!as<Tabs>(control).userSelect(asInteger(value, placeOf(control))))
-    refuse(control, "has no tab " + oneLine(value));
+  auto& tabs = as<Tabs>(control);
+  const int index = asInteger(value, placeOf(control));
+  if (index < 0 || index >= static_cast<int>(tabs.captions().size())) refuse(control, "has no tab " + oneLine(value));
+  control.userFocus();
+  tabs.userSelect(index);
 }
 
-Key keyOf(const Json& value) {
-  if (!value.is_object()) throw RequestError("keys must be texts or {\"key\": NAME}");
-  return {0, Fields(value).text("key")};
+void setDirectory(Control& control, const Json& value) {
+  auto& list = as<DirectoryList>(control);
+  const std::string& path = asText(value, placeOf(control));
+  if (list.accepts && !list.accepts(path)) refuse(control, "cannot choose " + path + ": no such directory");
+  control.userFocus();
+  list.userChoose(path);
 }
 
-void typeText(Control& control, std::string_view text) {
-  while (!text.empty()) control.userKey({popCharacter(text), {}});
+void appendKeys(std::vector<Key>& keys, std::string_view text) {
+  while (!text.empty()) keys.push_back({popCharacter(text), {}});
+}
+
+std::vector<Key> keysOf(const Json& given) {
+  std::vector<Key> keys;
+  for (const Json& item : given.is_array() ? given : Json::array({given})) {
+    if (item.is_string()) {
+      appendKeys(keys, item.get_ref<const std::string&>());
+    } else if (item.is_object()) {
+      keys.push_back({0, Fields(item).text("key")});
+    } else {
+      throw RequestError("keys must be texts or {\"key\": NAME}");
+    }
+  }
+  return keys;
+}
+
+bool takesFocus(ControlKind kind) {
+  return kind != ControlKind::label && kind != ControlKind::frame && kind != ControlKind::menu &&
+         kind != ControlKind::gauge;
 }
 
 }  // namespace
@@ -150,19 +204,18 @@ Json describeControl(const Control& control) {
 }
 
 void setControl(Control& control, const Json& value) {
-  control.userFocus();
   switch (control.kind()) {
     case ControlKind::text:
-      return as<TextBox>(control).userReplace(asText(value, placeOf(control)));
+      return setText(control, value);
     case ControlKind::option:
       return setOption(control, value);
     case ControlKind::check:
-      return as<CheckBox>(control).userSet(asBoolean(value, placeOf(control)));
+      return setCheck(control, value);
     case ControlKind::combo:
     case ControlKind::list:
       return setChoice(control, value);
     case ControlKind::slider:
-      return as<Slider>(control).userMove(asNumber(value, placeOf(control)));
+      return setSlider(control, value);
     case ControlKind::tabs:
       return setTabs(control, value);
     case ControlKind::directory:
@@ -207,14 +260,10 @@ void doubleClickControl(Control& control) {
 }
 
 void typeKeys(Control& control, const Json& keys) {
+  if (!takesFocus(control.kind())) refuse(control, "takes no keys: it is a " + std::string(nameOf(control.kind())));
+  const std::vector<Key> presses = keysOf(keys);
   control.userFocus();
-  for (const Json& item : keys.is_array() ? keys : Json::array({keys})) {
-    if (item.is_string()) {
-      typeText(control, item.get_ref<const std::string&>());
-    } else {
-      control.userKey(keyOf(item));
-    }
-  }
+  for (const Key& key : presses) control.userKey(key);
 }
 
 Json tableCells(const Control& control, const Fields& request) {
@@ -242,16 +291,16 @@ void setTableCells(Control& control, const Fields& request) {
   const int column = request.integer("column");
   const Json& values = request.list("values");
   std::vector<std::vector<std::string>> texts;
-  int r = row;
+  std::size_t widest = 0;
   for (const Json& line : values) {
-    const int width = static_cast<int>(asList(line, "a row of \"values\"").size());
-    if (width > 0 && !(table.holds({r, column}) && table.holds({r, column + width - 1}))) {
-      refuse(control, "does not hold this block");
-    }
+    widest = std::max(widest, asList(line, "a row of \"values\"").size());
     texts.emplace_back();
     for (const Json& cell : line) texts.back().push_back(asText(cell, "a cell of \"values\""));
-    ++r;
   }
+  const bool inside = row >= 0 && column >= 0 && row <= table.rows() && column <= table.columns() &&
+                      values.size() <= static_cast<std::size_t>(table.rows() - row) &&
+                      widest <= static_cast<std::size_t>(table.columns() - column);
+  if (!inside) refuse(control, "does not hold this block");
   table.userSetBlock({row, column}, texts);
 }
 
@@ -278,6 +327,7 @@ void useMouse(Control& control, const Fields& request) {
     throw RequestError("field \"event\" must be down, move, up or dblclick");
   }
   event.button = request.integer("button", 0);
+  if (event.button < 0 || event.button > 2) throw RequestError("field \"button\" must be 0, 1 or 2");
   event.x = request.number("x");
   event.y = request.number("y");
   canvas.userMouse(event);

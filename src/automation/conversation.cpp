@@ -1,7 +1,8 @@
 #include "automation/conversation.h"
 
-#include <algorithm>
+#include <array>
 #include <ostream>
+#include <utility>
 
 namespace kestra {
 namespace {
@@ -30,7 +31,50 @@ Json dialogOf(const char* kind, const std::string& title, const Json& start) {
   return {{"kind", kind}, {"title", title}, {"filter", ""}, {"filterIndex", 0}, {"default", start}};
 }
 
+void checkFont(const Json& font, const std::string& what) {
+  if (!font.is_object()) throw RequestError(what + " must be an object");
+  if (font.contains("name")) asText(font["name"], what + ": \"name\"");
+  if (font.contains("size")) asNumber(font["size"], what + ": \"size\"");
+  if (font.contains("bold")) asBoolean(font["bold"], what + ": \"bold\"");
+  if (font.contains("italic")) asBoolean(font["italic"], what + ": \"italic\"");
+}
+
+void checkFiles(const Json& files, const std::string& what) {
+  for (const Json& file : asList(files, what)) asText(file, "an entry of " + what);
+}
+
+void checkColor(const Json& color, const std::string& what) {
+  constexpr int kWhite = 0xFFFFFF;
+  const int number = asInteger(color, what);
+  if (number < 0 || number > kWhite) throw RequestError(what + " must be from 0 to 16777215");
+}
+
+void checkCancel(const Json& cancel, const std::string& what) {
+  if (!asBoolean(cancel, what)) throw RequestError(what + " must be true");
+}
+
+using AnswerCheck = void (*)(const Json&, const std::string&);
+constexpr std::array<std::pair<const char*, AnswerCheck>, 8> kAnswerForms = {{
+    {"file", [](const Json& value, const std::string& what) { asText(value, what); }},
+    {"files", checkFiles},
+    {"directory", [](const Json& value, const std::string& what) { asText(value, what); }},
+    {"color", checkColor},
+    {"font", checkFont},
+    {"print", [](const Json& value, const std::string& what) { asBoolean(value, what); }},
+    {"cancel", checkCancel},
+    {"modal", [](const Json& value, const std::string& what) { asList(value, what); }},
+}};
+
 }  // namespace
+
+void checkAnswer(const Json& answer, std::size_t number) {
+  const std::string what = "answer " + std::to_string(number);
+  if (answer.is_string()) return;
+  for (const auto& [name, check] : kAnswerForms) {
+    if (answer.is_object() && answer.contains(name)) return check(answer[name], what + " \"" + name + "\"");
+  }
+  throw RequestError(what + " is neither a button nor the answer of a dialog or screen");
+}
 
 void Turn::report(Json& answer) const {
   if (!boxes.empty()) answer["boxes"] = boxes;
@@ -92,41 +136,35 @@ std::optional<std::vector<std::string>> Conversation::chooseFiles(const FileDial
   const bool several = turn() != nullptr && !turn()->answers.empty() && turn()->answers.front().contains("files");
   const Json answer = ask(std::move(shown), several ? "files" : "file");
   if (answer.is_null()) return std::nullopt;
-  if (!several) return std::vector<std::string>{asText(answer["file"], "answer \"file\"")};
-  std::vector<std::string> files;
-  for (const Json& file : asList(answer["files"], "answer \"files\"")) files.push_back(asText(file, "a file"));
-  if (!dialog.several && files.size() > 1) files.resize(1);
+  if (!several) return std::vector<std::string>{answer["file"].get<std::string>()};
+  auto files = answer["files"].get<std::vector<std::string>>();
+  if (files.empty() || !dialog.several) files.resize(1);  // no name at all is an empty name
   return files;
 }
 
 std::optional<std::string> Conversation::chooseDirectory(const std::string& title, const std::string& start) {
   const Json answer = ask(dialogOf("directory", title, start), "directory");
   if (answer.is_null()) return std::nullopt;
-  return asText(answer["directory"], "answer \"directory\"");
+  return answer["directory"].get<std::string>();
 }
 
 std::optional<std::uint32_t> Conversation::chooseColor(std::uint32_t start) {
   const Json answer = ask(dialogOf("color", "", start), "color");
   if (answer.is_null()) return std::nullopt;
-  return static_cast<std::uint32_t>(asInteger(answer["color"], "answer \"color\""));
+  return answer["color"].get<std::uint32_t>();
 }
 
 std::optional<FontChoice> Conversation::chooseFont(const FontChoice& start) {
   const Json answer = ask(dialogOf("font", "", start.name), "font");
   if (answer.is_null()) return std::nullopt;
-  FontChoice font = start;
   const Json& given = answer["font"];
-  if (!given.is_object()) throw RequestError("answer \"font\" must be an object");
-  if (given.contains("name")) font.name = asText(given["name"], "font name");
-  if (given.contains("size")) font.size = asNumber(given["size"], "font size");
-  if (given.contains("bold")) font.bold = asBoolean(given["bold"], "font bold");
-  if (given.contains("italic")) font.italic = asBoolean(given["italic"], "font italic");
-  return font;
+  return FontChoice{given.value("name", start.name), given.value("size", start.size), given.value("bold", start.bold),
+                    given.value("italic", start.italic)};
 }
 
 std::optional<PrintChoice> Conversation::choosePrint(const PrintChoice& start) {
   const Json answer = ask(dialogOf("print", "", start.device), "print");
-  if (answer.is_null() || !asBoolean(answer["print"], "answer \"print\"")) return std::nullopt;
+  if (answer.is_null() || !answer["print"].get<bool>()) return std::nullopt;
   return start;
 }
 

@@ -24,8 +24,12 @@ struct Turn {
   void report(Json& answer) const;
 };
 
+// RequestError unless the answer has one of the forms that there are: a button's caption, or an object with one of the
+// fields file, files, directory, color, font, print, cancel, modal, of its type. `number` counts the answers from 1.
+void checkAnswer(const Json& answer, std::size_t number);
+
 // The user's side of a run by script: boxes, dialogs and beeps are written down in the request's turn and answered from
-// its answers, in order. Outside a request a box is printed as "TITLE: TEXT" and refused.
+// its answers, which have been checked, in order. Outside a request a box is printed as "TITLE: TEXT" and refused.
 class Conversation : public MessageBoxes, public Dialogs, public Beeper {
  public:
   explicit Conversation(std::ostream& outside) : outside_(outside) {}

@@ -89,8 +89,8 @@ Driver::~Driver() {
 
 void Driver::run(std::istream& in, std::ostream& out) {
   std::string line;
-  while (!finished() && readLine(in, line, kLongestLine)) {
-    if (isBlank(line)) continue;
+  while (!finished() && out && readLine(in, line, kLongestLine)) {
+    if (line.size() <= kLongestLine && isBlank(line)) continue;
     out << answerTo(line) << '\n' << std::flush;
   }
 }
@@ -103,8 +103,8 @@ std::string Driver::answerTo(std::string_view line) {
     request = Json::parse(line);
   } catch (const Json::parse_error& fault) {
     return oneLine(failed("malformed JSON at column " + std::to_string(fault.byte)));
-  } catch (const Json::exception& fault) {
-    return oneLine(failed(std::string("malformed JSON: ") + fault.what()));
+  } catch (const Json::out_of_range&) {
+    return oneLine(failed("malformed JSON: a number is out of range"));
   }
   return oneLine(answer(request));
 }
@@ -117,7 +117,10 @@ Json Driver::answer(const Json& request) {
   try {
     if (!request.is_object()) throw RequestError("a request must be a JSON object");
     if (request.contains("answers")) {
-      for (const Json& given : Fields(request).list("answers")) turn.answers.push_back(given);
+      for (const Json& given : Fields(request).list("answers")) {
+        checkAnswer(given, turn.answers.size() + 1);
+        turn.answers.push_back(given);
+      }
     }
     Json value = carryOut(request);
     answer["ok"] = true;

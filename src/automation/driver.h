@@ -27,8 +27,8 @@ class Driver : public ModalLoop {
   Driver(const Driver&) = delete;
   Driver& operator=(const Driver&) = delete;
 
-  // Reads lines until the end of the input, "quit", or the end of the application; lines without anything but blanks
-  // are passed over, those above kLongestLine are answered with an error.
+  // Reads lines until the end of the input, "quit", the end of the application, or an answer that `out` does not take;
+  // lines without anything but blanks are passed over, those above kLongestLine are answered with an error.
   void run(std::istream& in, std::ostream& out);
 
   std::string answerTo(std::string_view line);  // without line end

@@ -47,17 +47,23 @@ int drive(const CliOptions& options) {
   return 0;
 }
 
+int run(int argc, char** argv) {
+  int exitCode = 0;
+  const auto options = parseCommandLine(argc, argv, std::cout, std::cerr, exitCode);
+  if (!options) return exitCode;
+  return options->command == CliCommand::newProject ? makeProject(*options) : drive(*options);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
-  int exitCode = 0;
-  const auto options = parseCommandLine(argc, argv, std::cout, std::cerr, exitCode);
-  if (!options) return exitCode;
   try {
-    return options->command == CliCommand::newProject ? makeProject(*options) : drive(*options);
+    const int exitCode = run(argc, argv);
+    if (std::cout.flush()) return exitCode;
+    std::cerr << "kestra: the standard output cannot be written\n";
   } catch (const std::exception& fault) {
     std::cerr << "kestra: " << fault.what() << '\n';
-    return kFailed;
   }
+  return kFailed;
 }

@@ -19,9 +19,9 @@ inline std::string memberName(const std::string& name, int index) {
 template <class C>
 class ControlArray {
  public:
-  // Members first to first + count - 1, each made with the arguments behind its name.
+  // Members first to first + count - 1, each made with the arguments behind its name, such as the group of an option.
   template <class... Args>
-  ControlArray(Screen& screen, const std::string& name, int first, int count, const Args&... args) : first_(first) {
+  ControlArray(Screen& screen, const std::string& name, int first, int count, Args&&... args) : first_(first) {
     for (int i = 0; i < count; ++i) members_.emplace_back(screen, memberName(name, first + i), args...);
   }
 

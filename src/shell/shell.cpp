@@ -42,7 +42,9 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   shows(inputWindow.mnuDisclaimer, disclaimer);
   for (int k = 1; k <= RecentProjects::kMost; ++k) {
     topScreen.mnuRecentProject(k).onClick = [this, k] {
-      projects.openRecent(topScreen.recent().paths()[static_cast<std::size_t>(k - 1)]);
+      const auto paths = topScreen.recent().paths();
+      const auto index = static_cast<std::size_t>(k - 1);
+      if (index < paths.size()) projects.openRecent(paths[index]);
     };
   }
   topScreen.onEnd = [this] { end(); };

@@ -1,0 +1,147 @@
+#include "cli/options.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace kestra {
+namespace {
+
+struct Parsed {
+  std::optional<CliOptions> options;
+  int exitCode = -1;
+  std::string out;
+  std::string err;
+};
+
+Parsed parse(std::vector<const char*> words) {
+  words.insert(words.begin(), "kestra");
+  Parsed parsed;
+  std::ostringstream out;
+  std::ostringstream err;
+  parsed.options = parseCommandLine(static_cast<int>(words.size()), words.data(), out, err, parsed.exitCode);
+  parsed.out = out.str();
+  parsed.err = err.str();
+  return parsed;
+}
+
+constexpr const char* kGeneral =
+    "Overtopping and breach of embankment dams, without a window\n"
+    "Usage: kestra [OPTIONS] [SUBCOMMAND]\n"
+    "\n"
+    "Options:\n"
+    "  -h,--help                   Print this help message and exit\n"
+    "  --version                   print the version\n"
+    "  --app-dir DIR               directory of the external programs\n"
+    "  --settings FILE             settings file\n"
+    "  --yes                       answer questions with Yes\n"
+    "\n"
+    "Subcommands:\n"
+    "  new                         make a project directory\n"
+    "  drive                       carry out requests, one JSON object a line, from standard input\n"
+    "  help                        tell about the commands\n"
+    "\n";
+constexpr const char* kNew =
+    "make a project directory\n"
+    "Usage: kestra new [OPTIONS] DIR\n"
+    "\n"
+    "Positionals:\n"
+    "  DIR REQUIRED                the directory to make\n"
+    "\n"
+    "Options:\n"
+    "  -h,--help                   Print this help message and exit\n"
+    "\n"
+    "Options of every command: --app-dir DIR, --settings FILE\n";
+constexpr const char* kDrive =
+    "carry out requests, one JSON object a line, from standard input\n"
+    "Usage: kestra drive [OPTIONS] [CONTROL_FILE]\n"
+    "\n"
+    "Positionals:\n"
+    "  CONTROL_FILE                the control file to open\n"
+    "\n"
+    "Options:\n"
+    "  -h,--help                   Print this help message and exit\n"
+    "\n"
+    "Options of every command: --app-dir DIR, --settings FILE\n";
+
+struct Telling {
+  std::vector<const char*> words;
+  int exitCode;
+  std::string out;
+  std::string err;
+};
+
+TEST(CommandLine, tellsTheVersionAndHelpAndWhatIsWrong) {
+  const auto wrong = [](const std::string& why) { return "kestra: " + why + "\nRun kestra help for the commands.\n"; };
+  const Telling table[] = {
+      {{"--version"}, 0, "Kestra B " KESTRA_VERSION "\n", ""},
+      {{"--version", "drive"}, 0, "Kestra B " KESTRA_VERSION "\n", ""},
+      {{"--help"}, 0, kGeneral, ""},
+      {{"-h"}, 0, kGeneral, ""},
+      {{"help"}, 0, kGeneral, ""},
+      {{"help", "new"}, 0, kNew, ""},
+      {{"new", "--help"}, 0, kNew, ""},
+      {{"new", "a", "-h"}, 0, kNew, ""},
+      {{"help", "drive"}, 0, kDrive, ""},
+      {{"--settings", "s", "help", "drive"}, 0, kDrive, ""},
+      {{"drive", "--help"}, 0, kDrive, ""},
+      {{"help", "dance"}, 2, "", "kestra: no command named dance\n"},
+      {{}, 2, "", kGeneral},
+      {{"--yes"}, 2, "", kGeneral},
+      {{"dance"}, 2, "", wrong("The following argument was not expected: dance")},
+      {{"New", "a"}, 2, "", wrong("The following arguments were not expected: a New")},
+      {{"new"}, 2, "", wrong("DIR is required")},
+      {{"new", "a", "b"}, 2, "", wrong("The following argument was not expected: b")},
+      {{"new", "-a"}, 2, "", wrong("DIR is required")},
+      {{"drive", "a", "b"}, 2, "", wrong("The following argument was not expected: b")},
+      {{"drive", "--nothing"}, 2, "", wrong("The following argument was not expected: --nothing")},
+      {{"drive", "--app-dir"}, 2, "", wrong("--app-dir: 1 required DIR missing")},
+      {{"drive", "--settings", "a", "--settings", "b"}, 2, "", wrong("--settings: At Most 1 required but received 2")},
+  };
+  for (const auto& [words, exitCode, out, err] : table) {
+    const Parsed parsed = parse(words);
+    EXPECT_FALSE(parsed.options) << err;
+    EXPECT_EQ(parsed.exitCode, exitCode);
+    EXPECT_EQ(parsed.out, out);
+    EXPECT_EQ(parsed.err, err);
+  }
+}
+
+TEST(CommandLine, takesOptionsBeforeAndBehindTheCommand) {
+  for (const auto& words : {std::vector<const char*>{"--app-dir", "/a", "--settings", "/s", "--yes", "new", "d"},
+                            {"new", "d", "--app-dir", "/a", "--settings", "/s", "--yes"},
+                            {"--yes", "new", "--settings=/s", "d", "--app-dir=/a"}}) {
+    const Parsed parsed = parse(words);
+    ASSERT_TRUE(parsed.options) << parsed.err;
+    EXPECT_EQ(parsed.options->command, CliCommand::newProject);
+    EXPECT_EQ(parsed.options->directory, "d");
+    EXPECT_EQ(parsed.options->appDirectory, "/a");
+    EXPECT_EQ(parsed.options->settingsFile, "/s");
+    EXPECT_TRUE(parsed.options->yes);
+    EXPECT_EQ(parsed.out + parsed.err, "");
+  }
+}
+
+TEST(CommandLine, leavesPathsAsTheyStand) {
+  for (const char* path : {"a b", "\"a.KSC\"", "'a'", "[a]", "{}", "a=b", "%%", "~", "help", "drive", "\n", "\xff", " ",
+                           "a,b", "@a", "#", "ä\\ö"}) {
+    const Parsed made = parse({"new", path});
+    ASSERT_TRUE(made.options) << path << made.err;
+    EXPECT_EQ(made.options->directory, path);
+    const Parsed driven = parse({"drive", path});
+    ASSERT_TRUE(driven.options) << path << driven.err;
+    EXPECT_EQ(driven.options->command, CliCommand::drive);
+    EXPECT_EQ(driven.options->controlFile, path);
+  }
+  EXPECT_EQ(parse({"drive", "--", "-a.KSC"}).options->controlFile, "-a.KSC");
+}
+
+TEST(CommandLine, canDoWithoutAControlFile) {
+  const Parsed parsed = parse({"drive"});
+  ASSERT_TRUE(parsed.options);
+  EXPECT_EQ(parsed.options->controlFile + parsed.options->appDirectory + parsed.options->settingsFile, "");
+  EXPECT_FALSE(parsed.options->yes);
+}
+
+}  // namespace
+}  // namespace kestra
