@@ -225,9 +225,13 @@ void setControl(Control& control, const Json& value) {
   }
 }
 
-void clickControl(Control& control) {
+void checkClickable(const Control& control) {
   if (!control.visible()) refuse(control, "is hidden");
   if (!control.enabled()) refuse(control, "is disabled");
+}
+
+void clickControl(Control& control) {
+  checkClickable(control);
   switch (control.kind()) {
     case ControlKind::button:
     case ControlKind::menu: {

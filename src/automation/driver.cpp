@@ -165,7 +165,9 @@ Json Driver::carryOut(const Json& whole) {
 
 Json Driver::control(const std::string& verb, const Fields& request) {
   Control& named = controlOf(request);
-  application_.host.load(named.screen());
+  const bool reads = verb == "get" || verb == "cells" || verb == "canvas" || verb == "image";
+  if (verb == "click") checkClickable(named);
+  if (!reads || named.screen().loadsWhenRead()) application_.host.load(named.screen());
   return verb == "image" ? picture(named, request) : controlVerbs().at(verb)(named, request);
 }
 

@@ -1,7 +1,10 @@
 #include "automation/variables.h"
 
+#include <algorithm>
 #include <functional>
 #include <map>
+
+#include "base/numbers.h"
 
 namespace kestra {
 namespace {
@@ -27,6 +30,16 @@ Reader fromState(Member member) {
   return [member](const Application& application) -> Json { return application.state.*member; };
 }
 
+// Titles by field and level; a level that has fewer fields has empty titles behind them.
+Json titlesByIndex(const Application& application) {
+  const auto& [dam, instance] = application.shell.catalogues.fieldTitles;
+  Json titles = Json::array();
+  for (std::size_t i = 0; i < std::max(dam.size(), instance.size()); ++i) {
+    titles.push_back(Json::array({i < dam.size() ? dam[i] : "", i < instance.size() ? instance[i] : ""}));
+  }
+  return titles;
+}
+
 Json titleCounts(const Application& application) {
   const auto& titles = application.shell.catalogues.fieldTitles;
   return {titles[0].size(), titles[1].size()};
@@ -42,6 +55,7 @@ const std::map<std::string, Reader>& readers() {
       {"fileHasName", fromState(&State::fileHasName)},
       {"bExiting", fromState(&State::bExiting)},
       {"projectReadOnly", fromState(&State::projectReadOnly)},
+      {"inputScreens", fromState(&State::inputScreens)},
       {"solverPath", fromState(&State::solverPath)},
       {"crlf", fromState(&State::crlf)},
       {"numAuxSpillways", fromState(&State::numAuxSpillways)},
@@ -55,7 +69,7 @@ const std::map<std::string, Reader>& readers() {
       {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},
       {"ComboList", [](const Application& a) -> Json { return a.shell.lines.ComboList; }},
       {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
-      {"fieldTitles", [](const Application& a) -> Json { return a.shell.catalogues.fieldTitles; }},
+      {"fieldTitles", titlesByIndex},
       {"fieldCount", titleCounts},
   };
   return kReaders;
@@ -75,11 +89,27 @@ Json screenProperty(const Application& application, const std::string& name) {
   return nullptr;
 }
 
+// One element of a variable that is a list: "ColorList(3)", counted from the list's own first index.
+Json element(const Application& application, const std::string& name) {
+  const std::size_t open = name.find('(');
+  if (open == std::string::npos || !name.ends_with(')')) return nullptr;
+  const std::string whole = name.substr(0, open);
+  const auto at = readers().find(whole);
+  const auto index = wholeNumber(std::string_view(name).substr(open + 1, name.size() - open - 2));
+  if (at == readers().end() || !index) return nullptr;
+  const Json list = at->second(application);
+  const long long first = whole == "windowOpen" || whole == "inputScreens" ? 1 : 0;
+  if (!list.is_array() || *index < first) return nullptr;
+  const auto place = static_cast<std::size_t>(*index - first);
+  return place < list.size() ? list[place] : Json();
+}
+
 }  // namespace
 
 Json readVariable(const Application& application, const std::string& name) {
   const auto at = readers().find(name);
   if (at != readers().end()) return at->second(application);
+  if (Json one = element(application, name); !one.is_null()) return one;
   Json property = screenProperty(application, name);
   if (property.is_null()) throw RequestError("no variable named \"" + name + "\"");
   return property;

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <iostream>
 
 #include "app/application.h"
@@ -58,6 +59,9 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
+#ifdef SIGPIPE
+  std::signal(SIGPIPE, SIG_IGN);  // a reader that has gone away is told as a failed write
+#endif
   try {
     const int exitCode = run(argc, argv);
     if (std::cout.flush()) return exitCode;

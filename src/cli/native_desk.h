@@ -11,6 +11,16 @@
 
 namespace kestra {
 
+// Shows nothing and keeps the topic asked for last.
+class LastHelpTopic : public HelpViewer {
+ public:
+  void showTopic(const std::string& topic) override { topic_ = topic; }
+  const std::string& topic() const { return topic_; }
+
+ private:
+  std::string topic_;
+};
+
 // The ports of this machine for a program without a window. The clipboard is the program's own, and help is noted
 // rather than shown. Who talks to the user stands elsewhere: boxes, dialogs and beeper are handed in.
 class NativeDesk {
@@ -30,7 +40,7 @@ class NativeDesk {
   TerminalEventPump events_;
   SystemEntropy entropy_;
   SystemClock clock_;
-  RecordingHelpViewer help_;
+  LastHelpTopic help_;
 };
 
 }  // namespace kestra

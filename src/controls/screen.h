@@ -47,6 +47,9 @@ class Screen {
   bool loaded() const { return loaded_; }
   bool visible() const { return visible_; }
 
+  // Whether looking at a control loads the screen. False where loading changes more than the screen itself.
+  virtual bool loadsWhenRead() const { return true; }
+
   // Whether what the user enters here belongs to the open control file.
   virtual bool holdsInput() const { return false; }
 

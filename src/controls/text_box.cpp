@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "controls/screen.h"
 #include "controls/undo_history.h"
 
 namespace kestra {
@@ -19,6 +20,8 @@ void TextBox::setText(std::string text) {
 void TextBox::userReplace(std::string_view text) {
   if (locked_) return;
   const Gesture gesture(history(), nullptr);
+  // A field of a record is one line.
+  if (!multiLine_ && screen().holdsInput()) text = text.substr(0, text.find_first_of("\r\n"));
   setText(std::string(maxLength_ > 0 ? charsFrom(text, 0, static_cast<std::size_t>(maxLength_)) : text));
   edited();
   if (onChange) onChange();

@@ -1,5 +1,7 @@
 #include "controls/undo_history.h"
 
+#include <algorithm>
+
 #include "controls/screen.h"
 #include "controls/table.h"
 
@@ -24,6 +26,8 @@ class KeptCells : public UndoChange {
     undo_detail::tell(table_, Property::cells);
   }
   std::size_t bytes() const override { return sizeof *this + cells_.capacity() * sizeof cells_[0]; }
+  const void* what() const override { return cells_.front().first; }
+  bool keepsOne() const override { return cells_.size() == 1; }
 
  private:
   Table& table_;
@@ -74,18 +78,31 @@ void UndoHistory::add(std::unique_ptr<UndoChange> change, bool isData) {
 // Takes a finished step in, joined to the one before it when both are keys typed into one place.
 void UndoHistory::take(Step step) {
   for (const auto& change : step.changes) step.bytes += change->bytes();
-  bytes_ += step.bytes;
   const bool joins = step.place != nullptr && undone_.empty() && !done_.empty() && done_.back().place == step.place &&
                      done_.back().cell == step.cell;
   undone_.clear();
   if (joins) {
-    Step& last = done_.back();
-    last.bytes += step.bytes;
-    for (auto& change : step.changes) last.changes.push_back(std::move(change));
+    bytes_ -= done_.back().bytes;
+    join(done_.back(), std::move(step));
   } else {
     done_.push_back(std::move(step));
   }
+  bytes_ += done_.back().bytes;
   trim();
+}
+
+// Puts a step behind another. Of a value that both keep only the older text is needed.
+void UndoHistory::join(Step& last, Step step) {
+  const auto isKept = [&last](const UndoChange& change) {
+    return change.keepsOne() && std::any_of(last.changes.begin(), last.changes.end(), [&change](const auto& kept) {
+             return kept->keepsOne() && kept->what() == change.what();
+           });
+  };
+  for (auto& change : step.changes) {
+    if (isKept(*change)) continue;
+    last.bytes += change->bytes();
+    last.changes.push_back(std::move(change));
+  }
 }
 
 void UndoHistory::trim() {

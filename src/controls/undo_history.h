@@ -20,6 +20,8 @@ class UndoChange {
   virtual ~UndoChange() = default;
   virtual void swap() = 0;
   virtual std::size_t bytes() const = 0;  // that it holds, roughly
+  virtual const void* what() const = 0;   // the value that it keeps, or the first of them
+  virtual bool keepsOne() const { return true; }
 };
 
 // What the user's gestures have changed on the screens that hold input, a step a gesture, with all that the handlers
@@ -67,6 +69,7 @@ class UndoHistory {
   void add(std::unique_ptr<UndoChange> change, bool isData);
   void take(Step step);
   void trim();
+  static void join(Step& last, Step step);
   static void swapAll(Step& step, bool backwards);
 
   std::deque<Step> done_;
@@ -99,6 +102,7 @@ class KeptValue : public UndoChange {
     if (control_ != nullptr) tell(*control_, property_);
   }
   std::size_t bytes() const override { return sizeof *this + heldBytes(kept_); }
+  const void* what() const override { return &value_; }
 
  private:
   T& value_;

@@ -106,7 +106,7 @@ Status writeWholeFile(FileSystem& files, const std::string& path, std::string_vi
   const Result<Target> target = findTarget(files, path);
   if (!target) return target.failure();
   Result<Temporary> created = createTemporary(files, target.value().directory);
-  if (!created) return created.failure();
+  if (!created) return Failure{created.failure().kind, path, created.failure().reason};
   Temporary temporary = std::move(created).value();
   const Status filled = fill(files, target.value(), temporary, bytes);
   if (!filled) {
@@ -125,8 +125,10 @@ Status removeTree(FileSystem& files, const std::string& path) {
 }
 
 Result<std::string> findIgnoringCase(FileSystem& files, const std::string& directory, std::string_view name) {
-  const auto isFile = [&files](const std::string& path) {
+  Failure failure = {FailureKind::notFound, joinPath(directory, name), "No such file or directory"};
+  const auto isFile = [&files, &failure](const std::string& path) {
     const Result<FileStatus> status = files.status(path);
+    if (!status && !status.failedAs(FailureKind::notFound)) failure = status.failure();
     return status && status.value().type != FileStatus::Type::directory;
   };
   std::string exact = joinPath(directory, name);
@@ -140,7 +142,7 @@ Result<std::string> findIgnoringCase(FileSystem& files, const std::string& direc
     std::string path = joinPath(directory, entry.name);
     if (isFile(path)) return path;
   }
-  return Failure{FailureKind::notFound, exact, "No such file or directory"};
+  return failure;
 }
 
 Status makeDirectories(FileSystem& files, const std::string& path) {

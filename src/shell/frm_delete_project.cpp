@@ -16,23 +16,37 @@ frmDeleteProject::frmDeleteProject(ScreenContext& context, Projects& projects, f
 }
 
 void frmDeleteProject::deleteProject() {
-  const std::string path = directory();
+  const auto real = context_.ports.files.canonical(directory());
+  const std::string path = real ? real.value() : directory();
   if (!bearsOwnersMark(context_.ports.files, path)) return warn("This is not a valid project directory!");
   const std::string question =
-      "Do you really want to remove the QUIL project " + std::string(ParsePathName(path)) + " ?";
+      "Do you really want to remove the QUIL project " + std::string(ParsePathName(directory())) + " ?";
   if (!context_.ports.boxes.confirm(title(), question) || heldByAnother(path)) return;
   remove(path);
 }
 
 void frmDeleteProject::remove(const std::string& path) {
   FileSystem& files = context_.ports.files;
-  const bool wasOpen = projects_.isOpen(path);
+  const bool openThere = projects_.isWithin(path);
+  const std::string before = files.currentDirectory();
   (void)files.changeDirectory(applicationDirectory_);
-  top_.RemoveRecentProject(path);
-  if (wasOpen) projects_.leave();
+  forget(path);
   const Status removed = removeProjectDirectory(files, path);
-  if (!removed) return warn("Unable to remove all files in the project directory.");
+  if (!removed) {
+    (void)files.changeDirectory(before);
+    return warn("Unable to remove all files in the project directory.");
+  }
+  if (openThere) projects_.leave();
   done();
+}
+
+// Takes the project, and those within it, off the recent list, whatever links lead to them.
+void frmDeleteProject::forget(const std::string& path) {
+  for (const std::string& recent : top_.recent().paths()) {
+    const auto real = context_.ports.files.canonical(recent);
+    const std::string& there = real ? real.value() : recent;
+    if (there == path || there.starts_with(joinPath(path, ""))) top_.RemoveRecentProject(recent);
+  }
 }
 
 // A project that another program has open stays, and the user is told who has it.

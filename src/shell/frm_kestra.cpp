@@ -39,6 +39,7 @@ void frmKestra::takeFile(const std::string& path) {
 void frmKestra::load() {
   context_.state.crlf = kCrLf;
   context_.state.fileIsNew = false;
+  context_.state.inputScreens = top_.windows().sequenceNames();
   top_.windows().AddData(kSlot);
 }
 

@@ -29,6 +29,8 @@ class frmKestra : public Screen, public InputDesktop {
   Menu mnuContents{*this, "mnuContents", "&Contents"};
   Menu mnuDisclaimer{*this, "mnuDisclaimer", "&Disclaimer"};
 
+  bool loadsWhenRead() const override { return false; }
+
   void takeProject();                      // a project is open and no file: its title and commands
   void takeFile(const std::string& path);  // a file was opened
 

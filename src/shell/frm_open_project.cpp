@@ -5,7 +5,8 @@ namespace kestra {
 frmOpenProject::frmOpenProject(ScreenContext& context, Projects& projects)
     : ProjectPicker(context, "frmOpenProject", "Open Project") {
   cmdOK.onClick = [this, &projects] {
-    if (projects.open(directory(), "This is not a valid QUIL project directory!")) done();
+    const Opening opening = projects.open(directory(), "This is not a valid QUIL project directory!");
+    if (opening == Opening::opened) done();
   };
 }
 

@@ -76,7 +76,10 @@ Status removeProjectDirectory(FileSystem& files, const std::string& directory) {
     const Status removed = removeTree(files, path);
     if (!removed && result) result = removed;
   }
-  return result ? removeTree(files, directory) : result;
+  if (result) result = removeTree(files, directory);
+  // The directory itself may be what could not be removed: its flag is put back.
+  if (!result && isDirectory(files, directory) && !isProject(files, directory)) (void)writeFlagFile(files, directory);
+  return result;
 }
 
 Result<std::unique_ptr<FileLock>> lockProject(FileSystem& files, const std::string& directory) {

@@ -15,8 +15,13 @@ bool liesIn(const std::string& path, const std::string& root) {
 ProjectPicker::ProjectPicker(ScreenContext& context, const std::string& name, const std::string& title)
     : Screen(name, title), context_(context) {
   FileSystem& files = context_.ports.files;
-  dirList.resolve = [&files](const std::string& path) { return absolutePath(path, files.currentDirectory()); };
-  dirList.accepts = [this, &files](const std::string& path) { return isDirectory(files, dirList.resolve(path)); };
+  // No directory at all may be chosen too: a name typed beside it is then a path of its own.
+  dirList.resolve = [&files](const std::string& path) {
+    return path.empty() ? path : absolutePath(path, files.currentDirectory());
+  };
+  dirList.accepts = [this, &files](const std::string& path) {
+    return path.empty() || isDirectory(files, dirList.resolve(path));
+  };
   dirList.onChange = [this] { choose(dirList.path()); };
   drvList.onClick = [this] { dirList.setPath(drvList.text()); };
   cmdCancel.onClick = [this] { done(); };

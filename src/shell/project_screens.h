@@ -31,6 +31,7 @@ class frmDeleteProject : public ProjectPicker {
  private:
   void deleteProject();
   void remove(const std::string& path);
+  void forget(const std::string& path);
   bool heldByAnother(const std::string& path);
 
   Projects& projects_;

@@ -54,32 +54,34 @@ void Projects::enter(const std::string& directory, const std::string& frameTitle
   state.bExiting = false;
 }
 
-bool Projects::open(const std::string& directory, const std::string& notAProject) {
+Opening Projects::open(const std::string& directory, const std::string& notAProject) {
   FileSystem& files = context_.ports.files;
   const ProjectCheck check = checkProject(files, directory);
   if (check != ProjectCheck::project) {
     warn(context_, check == ProjectCheck::notAProject ? notAProject : kCannotEnter);
-    return false;
+    return Opening::refused;
   }
   if (isOpen(directory)) {
+    std::string holder;
+    if (context_.state.projectReadOnly) tryHold(directory, holder);  // the other program may have ended
     warn(context_, "This project is already open.");
-    return false;
+    return Opening::wasOpen;
   }
   if (!files.changeDirectory(directory)) {
     warn(context_, kCannotEnter);
-    return false;
+    return Opening::refused;
   }
   enter(directory, openFrameTitle(directory));
-  return true;
+  return Opening::opened;
 }
 
 void Projects::openRecent(const std::string& directory) {
-  if (!open(directory, kNoRecentProject) && !isOpen(directory)) top_.RemoveRecentProject(directory);
+  if (open(directory, kNoRecentProject) == Opening::refused) top_.RemoveRecentProject(directory);
 }
 
 bool Projects::openFile(const std::string& path) {
   const std::string directory(directoryOf(path));
-  if (!open(directory, kNoProject)) return false;
+  if (open(directory, kNoProject) != Opening::opened) return false;
   context_.state.currentFile = path;
   context_.state.fileHasName = true;
   input_.takeFile(path);
@@ -107,12 +109,20 @@ bool Projects::isOpen(const std::string& directory) const {
   return here && there && here.value() == there.value();
 }
 
+bool Projects::isWithin(const std::string& directory) const {
+  if (context_.state.projectDir.empty()) return false;
+  if (isOpen(directory)) return true;
+  const auto here = context_.ports.files.canonical(context_.state.projectDir);
+  const auto there = context_.ports.files.canonical(directory);
+  return here && there && here.value().starts_with(joinPath(there.value(), ""));
+}
+
 // Closes all windows of the project and forgets its file.
 void Projects::closeWindows() {
   ApplicationState& state = context_.state;
   UnloadAllScreens(context_);
   state.bExiting = true;
-  top_.windows().LoadOrUnload();
+  top_.windows().unloadOthers();
   context_.host.unload(input_);
   state.bExiting = false;
   state.projectDir.clear();
@@ -122,15 +132,24 @@ void Projects::closeWindows() {
 }
 
 void Projects::hold(const std::string& directory) {
+  std::string holder;
+  if (!tryHold(directory, holder)) {
+    warn(context_, "This project is open in " + holder + ". You can look at it here, but nothing in it can be changed.");
+  }
+}
+
+// False when another program, the holder, has the project; it is then for looking only.
+bool Projects::tryHold(const std::string& directory, std::string& holder) {
   release();
   auto lock = lockProject(context_.ports.files, directory);
   if (lock) {
     lock_ = std::move(lock).value();
   } else if (lock.failedAs(FailureKind::busy)) {
     context_.state.projectReadOnly = true;
-    warn(context_, "This project is open in " + lock.failure().reason +
-                       ". You can look at it here, but nothing in it can be changed.");
+    holder = lock.failure().reason;
+    return false;
   }
+  return true;
 }
 
 }  // namespace kestra

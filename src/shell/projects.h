@@ -13,6 +13,8 @@ namespace kestra {
 // asks anything meanwhile.
 void UnloadAllScreens(ScreenContext& context);
 
+enum class Opening { opened, wasOpen, refused };
+
 // The one open project: entering it, leaving it, and holding it against other programs.
 class Projects {
  public:
@@ -22,8 +24,8 @@ class Projects {
   // that has it is told of in a box, and the project is then open for looking only.
   void enter(const std::string& directory, const std::string& frameTitle);
   // The same on behalf of a person: a directory that is no project, or the one already open, is answered with a warning
-  // under "Open Project". `notAProject` is the text for the first; false when the project was not opened.
-  bool open(const std::string& directory, const std::string& notAProject);
+  // under "Open Project". `notAProject` is the text for the first.
+  Opening open(const std::string& directory, const std::string& notAProject);
   void openRecent(const std::string& directory);  // a failing one is taken off the recent list
   // Opens the project in which a control file stands and takes the file as the open one; false, after a warning, when
   // its directory is no project.
@@ -31,11 +33,13 @@ class Projects {
   void leave();    // closes the project's windows: no project is open
   void release();  // lets other programs have it
 
-  bool isOpen(const std::string& directory) const;  // whatever links lead there
+  bool isOpen(const std::string& directory) const;   // whatever links lead there
+  bool isWithin(const std::string& directory) const;  // the open project is that directory, or lies in it
 
  private:
   void closeWindows();
   void hold(const std::string& directory);
+  bool tryHold(const std::string& directory, std::string& holder);
 
   ScreenContext& context_;
   frmTopScreen& top_;

@@ -17,8 +17,13 @@ void WindowRegistry::enter(WindowSlot slot, Screen& screen, ControlArray<Menu>* 
 }
 
 void WindowRegistry::shown(Screen& screen) {
-  const bool inSequence = std::find(sequence_.begin(), sequence_.end(), &screen) != sequence_.end();
-  if (inSequence || &screen == slots_[kInput].screen) lastInSequence_ = &screen;
+  if (std::find(sequence_.begin(), sequence_.end(), &screen) != sequence_.end()) lastInSequence_ = &screen;
+}
+
+std::vector<std::string> WindowRegistry::sequenceNames() const {
+  std::vector<std::string> names;
+  for (const Screen* screen : sequence_) names.push_back(screen->name());
+  return names;
 }
 
 void WindowRegistry::AddData(int slot) {
@@ -55,6 +60,10 @@ void WindowRegistry::buildMenu(ControlArray<Menu>& menu) {
 
 void WindowRegistry::LoadOrUnload() {
   if (!state_.windowOpen[kInput] && slots_[kInput].screen != nullptr) host_.show(*slots_[kInput].screen);
+  unloadOthers();
+}
+
+void WindowRegistry::unloadOthers() {
   for (int slot = kInput + 1; slot <= kLastSlot; ++slot) {
     if (!state_.windowOpen[at(slot)]) continue;
     if (slots_[at(slot)].screen == nullptr || host_.unload(*slots_[at(slot)].screen)) RemoveData(slot);
@@ -63,7 +72,8 @@ void WindowRegistry::LoadOrUnload() {
 
 void WindowRegistry::RaiseScreen(int slot) {
   if (slot < kFirstSlot || slot > kLastSlot || !state_.windowOpen[at(slot)]) return;
-  Screen* screen = slot == kInput && lastInSequence_ != nullptr ? lastInSequence_ : slots_[at(slot)].screen;
+  const bool left = lastInSequence_ != nullptr && lastInSequence_->loaded();
+  Screen* screen = slot == kInput && left ? lastInSequence_ : slots_[at(slot)].screen;
   if (screen != nullptr) host_.show(*screen);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <vector>
 
 #include "controls/control_array.h"
@@ -19,6 +20,7 @@ class WindowRegistry {
   void enter(WindowSlot slot, Screen& screen, ControlArray<Menu>* windowMenu);
   // An input screen of the Next sequence; slot 1 remembers the one shown last.
   void enterSequence(Screen& screen) { sequence_.push_back(&screen); }
+  std::vector<std::string> sequenceNames() const;
   void shown(Screen& screen);  // a screen came to the front
 
   void AddData(int slot);            // marks the slot open; outside 1 to 6 a fault
@@ -26,6 +28,7 @@ class WindowRegistry {
   bool IsAvailable(int slot) const;  // likewise
   void FindFormToBuildItems();       // rebuilds the Window menu of each open window
   void LoadOrUnload();               // the input window alone stays, or comes
+  void unloadOthers();  // all windows with slots but the input window
   void RaiseScreen(int slot);        // brings a slot's window to the front; none for a slot that has no window open
 
  private:
