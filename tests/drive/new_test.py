@@ -58,9 +58,11 @@ class New(Flow):
         self.assertEqual(self.names_in(), ["config", "file", "link"])
 
     def test_says_when_the_parent_may_not_be_written(self):
+        os.mkdir(self.at("closed"), 0o555)
         self.let_nobody_in()
-        self.refused(self.at("dam"), unable(self.at("dam"), "Permission denied"), before=as_nobody)
-        self.assertFalse(os.path.exists(self.at("dam")))
+        dam = self.at("closed/dam")
+        self.refused(dam, unable(dam, "Permission denied"), before=as_nobody)
+        self.assertEqual(self.names_in("closed"), [])
 
     def test_leaves_nothing_where_no_byte_can_be_written(self):
         def no_bytes():
