@@ -123,8 +123,8 @@ class New(Flow):
     def test_takes_the_settings_file_that_is_named(self):
         self.run_kestra("new", "dam", "--settings", "mine.ini")
         self.run_kestra("--settings", self.at("mine.ini"), "new", "dam2")
-        self.assertEqual(text_of(self.at("mine.ini")),
-                         f"[ProjectHistory]\r\nn=2\r\n1Project={self.at('dam2')}\r\n2Project={self.at('dam')}\r\n".encode())
+        wanted = f"[ProjectHistory]\r\nn=2\r\n1Project={self.at('dam2')}\r\n2Project={self.at('dam')}\r\n"
+        self.assertEqual(text_of(self.at("mine.ini")), wanted.encode())
         self.assertFalse(os.path.exists(self.at("config")))
 
 
