@@ -58,9 +58,11 @@ class New(Flow):
         self.assertEqual(self.names_in(), ["config", "file", "link"])
 
     def test_says_when_the_parent_may_not_be_written(self):
+        os.mkdir(self.at("closed"), 0o555)
         self.let_nobody_in()
-        self.refused(self.at("dam"), unable(self.at("dam"), "Permission denied"), before=as_nobody)
-        self.assertFalse(os.path.exists(self.at("dam")))
+        dam = self.at("closed/dam")
+        self.refused(dam, unable(dam, "Permission denied"), before=as_nobody)
+        self.assertEqual(self.names_in("closed"), [])
 
     def test_leaves_nothing_where_no_byte_can_be_written(self):
         def no_bytes():
@@ -121,8 +123,8 @@ class New(Flow):
     def test_takes_the_settings_file_that_is_named(self):
         self.run_kestra("new", "dam", "--settings", "mine.ini")
         self.run_kestra("--settings", self.at("mine.ini"), "new", "dam2")
-        self.assertEqual(text_of(self.at("mine.ini")),
-                         f"[ProjectHistory]\r\nn=2\r\n1Project={self.at('dam2')}\r\n2Project={self.at('dam')}\r\n".encode())
+        wanted = f"[ProjectHistory]\r\nn=2\r\n1Project={self.at('dam2')}\r\n2Project={self.at('dam')}\r\n"
+        self.assertEqual(text_of(self.at("mine.ini")), wanted.encode())
         self.assertFalse(os.path.exists(self.at("config")))
 
 

@@ -90,7 +90,7 @@ class NewProject(Flow):
         self.assertEqual(drive.state("projectDir"), self.at("dam"))
 
     def test_is_refused_where_nothing_may_be_written(self):
-        os.mkdir(self.at("closed"))
+        os.mkdir(self.at("closed"), 0o555)
         self.let_nobody_in()
         drive = self.drive(before=as_nobody)
         self.assertEqual(drive.new(self.at("closed"), "dam"),
