@@ -8,7 +8,7 @@ namespace kestra {
 
 Json describeControl(const Control& control);          // kind, value, caption, visible, enabled, and more by kind
 void setControl(Control& control, const Json& value);  // as the user would
-void checkClickable(const Control& control);                 // RequestError when hidden or disabled
+void checkClickable(const Control& control);           // RequestError when hidden or disabled
 void clickControl(Control& control);                   // error when hidden, disabled, or without anything to click
 void doubleClickControl(Control& control);
 void typeKeys(Control& control, const Json& keys);  // a text, {"key": NAME}, or a list of both

@@ -23,7 +23,8 @@ struct ApplicationState {
   bool bExiting = false;         // the system itself is closing windows: screens ask nothing
   bool projectReadOnly = false;  // another program has the project open: look, but write nothing
 
-  std::vector<std::string> inputScreens;  // names of the input screens in their Next order, once the input window is there
+  std::vector<std::string>
+      inputScreens;  // names of the input screens in their Next order, once the input window is there
 
   std::string solverPath;  // kept as configured; nothing starts it
   std::string crlf = std::string(kCrLf);

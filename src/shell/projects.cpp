@@ -134,7 +134,8 @@ void Projects::closeWindows() {
 void Projects::hold(const std::string& directory) {
   std::string holder;
   if (!tryHold(directory, holder)) {
-    warn(context_, "This project is open in " + holder + ". You can look at it here, but nothing in it can be changed.");
+    warn(context_,
+         "This project is open in " + holder + ". You can look at it here, but nothing in it can be changed.");
   }
 }
 

@@ -33,7 +33,7 @@ class Projects {
   void leave();    // closes the project's windows: no project is open
   void release();  // lets other programs have it
 
-  bool isOpen(const std::string& directory) const;   // whatever links lead there
+  bool isOpen(const std::string& directory) const;    // whatever links lead there
   bool isWithin(const std::string& directory) const;  // the open project is that directory, or lies in it
 
  private:

@@ -28,7 +28,7 @@ class WindowRegistry {
   bool IsAvailable(int slot) const;  // likewise
   void FindFormToBuildItems();       // rebuilds the Window menu of each open window
   void LoadOrUnload();               // the input window alone stays, or comes
-  void unloadOthers();  // all windows with slots but the input window
+  void unloadOthers();               // all windows with slots but the input window
   void RaiseScreen(int slot);        // brings a slot's window to the front; none for a slot that has no window open
 
  private:

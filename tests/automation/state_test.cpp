@@ -38,14 +38,43 @@ TEST_F(State, followsAProjectThatIsMade) {
 
 TEST_F(State, hasScreensThatAreShownAndClosed) {
   expect({
-      {"{'do':'screens'}",
-       "{'ok':true,'value':['frmTopScreen','frmKestra','frmNewProject','frmOpenProject','frmDeleteProject','frmAbout',"
-       "'frmDisclaimer','asker','first','second','gallery']}"},
       {"{'do':'activate','screen':'frmAbout'}", "{'ok':true,'value':null}"},
       {"{'do':'close','screen':'frmAbout'}", "{'ok':true,'value':null}"},
       {"{'do':'close','screen':'frmAbout'}", "{'ok':true,'value':null}"},
   });
   EXPECT_FALSE(desk.app.shell.about.loaded());
+  const std::string screens = desk.tell("{'do':'screens'}");
+  EXPECT_TRUE(
+      screens.starts_with("{'ok':true,'value':['frmTopScreen','frmKestra','frmNewProject','frmOpenProject',"
+                          "'frmDeleteProject','frmAbout','frmDisclaimer','frmProjectInformation',"));
+  EXPECT_TRUE(screens.ends_with("'asker','first','second','gallery']}"));
+}
+
+TEST_F(State, isNotChangedByLookingNorByARefusedRequest) {
+  const std::string before = desk.tell("{'do':'state'}");
+  for (const char* request :
+       {"{'do':'get','screen':'frmKestra','control':'mnuNew'}",
+        "{'do':'click','screen':'frmKestra','control':'mnuNew'}", "{'do':'controls','screen':'frmKestra'}"}) {
+    desk.tell(request);
+    EXPECT_EQ(desk.tell("{'do':'state'}"), before) << request;
+  }
+}
+
+TEST_F(State, namesTheInputScreensOnceTheInputWindowIsThere) {
+  EXPECT_EQ(desk.tell("{'do':'variable','name':'inputScreens'}"), "{'ok':true,'value':[]}");
+  desk.tell("{'do':'activate','screen':'frmKestra'}");
+  EXPECT_EQ(desk.tell("{'do':'variable','name':'inputScreens(1)'}"), "{'ok':true,'value':'frmProjectInformation'}");
+}
+
+TEST_F(State, readsOneElementOfAList) {
+  expect({
+      {"{'do':'variable','name':'ColorList(2)'}", "{'ok':true,'value':255}"},
+      {"{'do':'variable','name':'windowOpen(6)'}", "{'ok':true,'value':false}"},
+      {"{'do':'variable','name':'windowOpen(0)'}", "{'ok':false,'error':'no variable named \\'windowOpen(0)\\''}"},
+      {"{'do':'variable','name':'ColorList(110)'}", "{'ok':false,'error':'no variable named \\'ColorList(110)\\''}"},
+      {"{'do':'variable','name':'ColorList(x)'}", "{'ok':false,'error':'no variable named \\'ColorList(x)\\''}"},
+      {"{'do':'variable','name':'crlf(0)'}", "{'ok':false,'error':'no variable named \\'crlf(0)\\''}"},
+  });
 }
 
 TEST_F(State, hasVariables) {
@@ -57,7 +86,7 @@ TEST_F(State, hasVariables) {
       {"{'do':'variable','name':'currentSpillwayNumber'}", "{'ok':true,'value':'1'}"},
       {"{'do':'variable','name':'projectReadOnly'}", "{'ok':true,'value':false}"},
       {"{'do':'variable','name':'windowOpen'}", "{'ok':true,'value':[false,false,false,false,false,false]}"},
-      {"{'do':'variable','name':'fieldTitles'}", "{'ok':true,'value':[[],[]]}"},
+      {"{'do':'variable','name':'fieldTitles'}", "{'ok':true,'value':[]}"},
       {"{'do':'variable','name':'fieldCount'}", "{'ok':true,'value':[0,0]}"},
       {"{'do':'variable','name':'frmTopScreen.Caption'}", "{'ok':true,'value':'Kestra B'}"},
       {"{'do':'variable','name':'frmTopScreen.Width'}", "{'ok':true,'value':11600}"},

@@ -82,6 +82,13 @@ TEST_F(ProjectInformation, undoesFieldsAndOptionsAndMarksTheFileAsEdited) {
   EXPECT_EQ(desk.history.steps(), 2U);
 }
 
+TEST_F(ProjectInformation, takesNoLineEndIntoAFieldOfOneLine) {
+  screen.txtWatershedID.userReplace("a\r\nENDRUN");
+  EXPECT_EQ(screen.txtWatershedID.text(), "a");
+  screen.txtComments.userReplace("a\r\nb");
+  EXPECT_EQ(screen.txtComments.text(), "a\r\nb");
+}
+
 TEST_F(ProjectInformation, forgetsWhatWasUndoneOnceSomethingElseIsDone) {
   screen.optBare.userSelect();
   screen.mnuUndo.click();
@@ -106,6 +113,20 @@ TEST(UndoHistoryLimit, dropsTheOldestStep) {
   while (desk.history.undo()) continue;
   EXPECT_EQ(screen.txtWatershedID.text(), "0");
   EXPECT_EQ(desk.history.bytes(), 0U);
+}
+
+TEST(UndoHistoryLimit, keepsOneOldTextForKeysTypedInARow) {
+  InputDesk desk;
+  frmProjectInformation screen(desk.context);
+  desk.host.enter(screen);
+  screen.txtComments.setText(std::string(1U << 20U, 'x'));
+  for (int i = 0; i < 500; ++i) typeInto(screen.txtComments, "ab\b");
+  EXPECT_EQ(desk.history.steps(), 1U);
+  EXPECT_LT(desk.history.bytes(), 4U << 20U);
+  desk.history.undo();
+  EXPECT_EQ(screen.txtComments.text().size(), 1U << 20U);
+  desk.history.redo();
+  EXPECT_EQ(screen.txtComments.text().size(), (1U << 20U) + 500U);
 }
 
 TEST(UndoHistoryLimit, keepsItsMemoryWithinBounds) {

@@ -44,6 +44,30 @@ TEST(Closing, byTheFrameAlwaysAsksUnderTheScreensTitle) {
   EXPECT_EQ(desk.settings.get("ProjectHistory", "1Project", ""), "/home/dam");
 }
 
+// A message box that looks at the application while it is on show.
+struct WatchingBoxes : MessageBoxes {
+  BoxButton show(const MessageBox& box) override {
+    exitingMeanwhile = state != nullptr && state->bExiting;
+    return box.buttons.front();
+  }
+  const ApplicationState* state = nullptr;
+  bool exitingMeanwhile = false;
+};
+
+TEST(Closing, asksWithTheExitFlagSetAndEndsWithTheScreensUnloaded) {
+  ScriptedDesk desk;
+  WatchingBoxes boxes;
+  Ports ports{boxes,       desk.dialogs, desk.settings, desk.clipboard, desk.processes, desk.files,
+              desk.events, desk.beeper,  desk.entropy,  desk.clock,     desk.help};
+  Application app(ports, "/app");
+  boxes.state = &app.state;
+  app.shell.startUp("");
+  app.host.show(app.shell.input.projectInformation);
+  EXPECT_TRUE(app.host.closeByFrame(app.shell.topScreen));
+  EXPECT_TRUE(boxes.exitingMeanwhile);
+  EXPECT_FALSE(app.shell.input.projectInformation.loaded());
+}
+
 TEST(Closing, aRefusedExitByTheMenuDoesNotCountForTheFrame) {
   RunningDesk desk;
   desk.state.fileDirty = true;

@@ -93,14 +93,46 @@ TEST_F(DeleteProject, removesLinksAndNotWhatTheyLeadTo) {
 TEST_F(DeleteProject, saysWhenNotAllCouldBeRemovedAndLeavesAProject) {
   desk.memory.put("/home/dam/stuck/file", "x");
   desk.memory.setMode("/home/dam/stuck", true, false);
+  desk.shell.input.projectInformation.txtWatershedID.userReplace("typed");
   remove("/home/dam", {BoxButton::yes});
   expectBoxes({question, "Unable to remove all files in the project directory."});
-  EXPECT_EQ(desk.state.projectDir, "");
+  EXPECT_EQ(desk.state.projectDir, "/home/dam");
+  EXPECT_EQ(desk.shell.input.projectInformation.txtWatershedID.text(), "typed");
+  EXPECT_TRUE(desk.state.fileDirty);
+  EXPECT_EQ(desk.memory.currentDirectory(), "/home/dam");
   EXPECT_TRUE(desk.memory.content("/home/dam/owner"));
   EXPECT_FALSE(desk.memory.content("/home/dam/dam.KSC"));
   desk.memory.setMode("/home/dam/stuck", true, true);
   remove("/home/dam", {BoxButton::yes});
   EXPECT_FALSE(desk.memory.status("/home/dam"));
+}
+
+TEST_F(DeleteProject, putsTheFlagBackWhenOnlyTheDirectoryCouldNotBeRemoved) {
+  desk.memory.setMode("/home", true, false);
+  remove("/home/dam", {BoxButton::yes});
+  expectBoxes({question, "Unable to remove all files in the project directory."});
+  EXPECT_TRUE(desk.memory.content("/home/dam/owner"));
+  desk.memory.setMode("/home", true, true);
+  remove("/home/dam", {BoxButton::yes});
+  EXPECT_FALSE(desk.memory.status("/home/dam"));
+}
+
+TEST_F(DeleteProject, throughALinkRemovesTheProjectAndItsRecentEntry) {
+  desk.memory.putLink("/home/link", "/home/dam");
+  remove("/home/link", {BoxButton::yes});
+  expectBoxes({"Do you really want to remove the QUIL project link ?"});
+  EXPECT_FALSE(desk.memory.status("/home/dam"));
+  EXPECT_EQ(desk.state.projectDir, "");
+  EXPECT_TRUE(desk.shell.topScreen.recent().paths().empty());
+}
+
+TEST_F(DeleteProject, closesAnOpenProjectThatLiesDeeperInTheDeletedOne) {
+  desk.memory.putDirectory("/home/dam/deep");
+  makeProject(desk.shell, "/home/dam/deep", "inner");
+  EXPECT_EQ(desk.state.projectDir, "/home/dam/deep/inner");
+  remove("/home/dam", {BoxButton::yes});
+  EXPECT_EQ(desk.state.projectDir, "");
+  EXPECT_TRUE(desk.shell.topScreen.recent().paths().empty());
 }
 
 TEST_F(DeleteProject, isRefusedWhileAnotherProgramHasTheProject) {

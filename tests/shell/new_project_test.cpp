@@ -90,10 +90,13 @@ TEST_F(NewProject, isRefusedWhereSomethingStandsAlready) {
 
 TEST_F(NewProject, needsAPathWithASeparator) {
   desk.shell.topScreen.mnuNewProject.click();
-  desk.shell.newProject.dirList.setPath("");
+  desk.shell.newProject.dirList.userChoose("");
   desk.shell.newProject.txtEnterName.userReplace("dam");
   desk.shell.newProject.cmdOK.click();
   expectBox("You have given an invalid directory name!");
+  desk.shell.newProject.txtEnterName.userReplace("/home/dam");
+  desk.shell.newProject.cmdOK.click();
+  EXPECT_EQ(desk.state.projectDir, "/home/dam");
 }
 
 TEST_F(NewProject, takesAnyNameThatADirectoryMayHave) {

@@ -103,8 +103,30 @@ TEST_F(OpenProject, thatAnotherProgramHasIsForLookingOnly) {
       "changed.");
   EXPECT_EQ(desk.state.projectDir, "/home/a");
   EXPECT_TRUE(desk.state.projectReadOnly);
-  open("/home/b");
+  desk.memory.holdLock("/home/a/owner", "");
+  open("/home/a");
+  expectBox("This project is already open.");
   EXPECT_FALSE(desk.state.projectReadOnly);
+}
+
+TEST_F(OpenProject, takesTheOpenProjectsRecentEntryOffOnceItsDirectoryIsGone) {
+  open("/home/a");
+  (void)desk.memory.removeFile("/home/a/owner");
+  desk.shell.topScreen.mnuRecentProject(1).click();
+  expectBox("This is not a valid Kestra B project directory!");
+  EXPECT_TRUE(recent().empty());
+}
+
+TEST_F(OpenProject, clearsTheInputOfTheProjectBefore) {
+  open("/home/a");
+  desk.app.host.show(desk.shell.input.projectInformation);
+  desk.shell.input.projectInformation.txtWatershedID.userReplace("typed");
+  EXPECT_TRUE(desk.state.fileDirty);
+  open("/home/b");
+  EXPECT_EQ(desk.shell.input.projectInformation.txtWatershedID.text(), "");
+  EXPECT_FALSE(desk.shell.input.projectInformation.visible());
+  EXPECT_FALSE(desk.state.fileDirty);
+  EXPECT_EQ(desk.shell.history.steps(), 0U);
 }
 
 TEST_F(OpenProject, startsItsListsAtTheCurrentDirectoryAndFollowsTheDrive) {

@@ -78,6 +78,9 @@ TEST_F(WindowRegistryTest, raisesTheInputScreenAtWhichTheUserLeftTheSequence) {
   desk.app.host.show(desk.shell.inputWindow);
   desk.app.host.show(summary);
   windows.RaiseScreen(1);
+  EXPECT_EQ(desk.app.host.shown().front(), &sequence);
+  desk.app.host.unload(sequence);
+  windows.RaiseScreen(1);
   EXPECT_EQ(desk.app.host.shown().front(), &desk.shell.inputWindow);
 }
 
