@@ -4,6 +4,8 @@ namespace kestra {
 
 InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : context{base, desktop, {}} {
   context.screens.projectInformation = &projectInformation;
+  context.screens.properties = &properties;
+  context.screens.damSurface = &damSurface;
 }
 
 void InputScreenSet::enterAll(ScreenHost& host) {
@@ -11,7 +13,7 @@ void InputScreenSet::enterAll(ScreenHost& host) {
 }
 
 std::vector<Screen*> InputScreenSet::sequence() {
-  return {&projectInformation};
+  return {&projectInformation, &properties, &damSurface};
 }
 
 }  // namespace kestra

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "screens/frm_dam_surface.h"
 #include "screens/frm_project_information.h"
+#include "screens/properties.h"
 
 namespace kestra {
 
@@ -11,6 +13,8 @@ class InputScreenSet {
 
   InputContext context;
   frmProjectInformation projectInformation{context};
+  Properties properties{context};
+  frmDamSurface damSurface{context};
 
   void enterAll(ScreenHost& host);
   // Those of the Next sequence, in its order.
