@@ -6,6 +6,9 @@ InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : con
   context.screens.projectInformation = &projectInformation;
   context.screens.properties = &properties;
   context.screens.damSurface = &damSurface;
+  context.screens.psType = &psType;
+  context.screens.psConduit = &psConduit;
+  context.screens.psRatingTable = &psRatingTable;
 }
 
 void InputScreenSet::enterAll(ScreenHost& host) {
@@ -13,7 +16,7 @@ void InputScreenSet::enterAll(ScreenHost& host) {
 }
 
 std::vector<Screen*> InputScreenSet::sequence() {
-  return {&projectInformation, &properties, &damSurface};
+  return {&projectInformation, &properties, &damSurface, &psType, &psConduit, &psRatingTable};
 }
 
 }  // namespace kestra

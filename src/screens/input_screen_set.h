@@ -2,6 +2,9 @@
 
 #include "screens/frm_dam_surface.h"
 #include "screens/frm_project_information.h"
+#include "screens/frm_ps_conduit.h"
+#include "screens/frm_ps_rating_table.h"
+#include "screens/frm_ps_type.h"
 #include "screens/properties.h"
 
 namespace kestra {
@@ -15,6 +18,9 @@ class InputScreenSet {
   frmProjectInformation projectInformation{context};
   Properties properties{context};
   frmDamSurface damSurface{context};
+  frmPSType psType{context};
+  frmPSConduit psConduit{context};
+  frmPSRatingTable psRatingTable{context};
 
   void enterAll(ScreenHost& host);
   // Those of the Next sequence, in its order.
