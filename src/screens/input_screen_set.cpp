@@ -9,6 +9,7 @@ InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : con
   context.screens.psType = &psType;
   context.screens.psConduit = &psConduit;
   context.screens.psRatingTable = &psRatingTable;
+  context.screens.headcut = &headcut;
 }
 
 void InputScreenSet::enterAll(ScreenHost& host) {
@@ -16,7 +17,7 @@ void InputScreenSet::enterAll(ScreenHost& host) {
 }
 
 std::vector<Screen*> InputScreenSet::sequence() {
-  return {&projectInformation, &properties, &damSurface, &psType, &psConduit, &psRatingTable};
+  return {&projectInformation, &properties, &damSurface, &psType, &psConduit, &psRatingTable, &headcut};
 }
 
 }  // namespace kestra

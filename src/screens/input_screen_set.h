@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/frm_dam_surface.h"
+#include "screens/frm_headcut.h"
 #include "screens/frm_project_information.h"
 #include "screens/frm_ps_conduit.h"
 #include "screens/frm_ps_rating_table.h"
@@ -21,6 +22,7 @@ class InputScreenSet {
   frmPSType psType{context};
   frmPSConduit psConduit{context};
   frmPSRatingTable psRatingTable{context};
+  frmHeadcut headcut{context};
 
   void enterAll(ScreenHost& host);
   // Those of the Next sequence, in its order.
