@@ -4,6 +4,12 @@ namespace kestra {
 
 InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : context{base, desktop, {}} {
   context.screens.projectInformation = &projectInformation;
+  context.screens.properties = &properties;
+  context.screens.damSurface = &damSurface;
+  context.screens.psType = &psType;
+  context.screens.psConduit = &psConduit;
+  context.screens.psRatingTable = &psRatingTable;
+  context.screens.headcut = &headcut;
 }
 
 void InputScreenSet::enterAll(ScreenHost& host) {
@@ -11,7 +17,7 @@ void InputScreenSet::enterAll(ScreenHost& host) {
 }
 
 std::vector<Screen*> InputScreenSet::sequence() {
-  return {&projectInformation};
+  return {&projectInformation, &properties, &damSurface, &psType, &psConduit, &psRatingTable, &headcut};
 }
 
 }  // namespace kestra

@@ -1,6 +1,12 @@
 #pragma once
 
+#include "screens/frm_dam_surface.h"
+#include "screens/frm_headcut.h"
 #include "screens/frm_project_information.h"
+#include "screens/frm_ps_conduit.h"
+#include "screens/frm_ps_rating_table.h"
+#include "screens/frm_ps_type.h"
+#include "screens/properties.h"
 
 namespace kestra {
 
@@ -11,6 +17,12 @@ class InputScreenSet {
 
   InputContext context;
   frmProjectInformation projectInformation{context};
+  Properties properties{context};
+  frmDamSurface damSurface{context};
+  frmPSType psType{context};
+  frmPSConduit psConduit{context};
+  frmPSRatingTable psRatingTable{context};
+  frmHeadcut headcut{context};
 
   void enterAll(ScreenHost& host);
   // Those of the Next sequence, in its order.
