@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "controls/choices.h"
 #include "controls/control_array.h"
 #include "controls/text_box.h"
