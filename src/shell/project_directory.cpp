@@ -58,9 +58,9 @@ bool bearsOwnersMark(FileSystem& files, const std::string& directory) {
 }
 
 Status makeProjectDirectory(FileSystem& files, const std::string& directory) {
-  const Status made = files.makeDirectory(directory);
+  Status made = files.makeDirectory(directory);
   if (!made) return made;
-  const Status filled = fillProjectDirectory(files, directory);
+  Status filled = fillProjectDirectory(files, directory);
   if (!filled) (void)removeTree(files, directory);
   return filled;
 }

@@ -13,7 +13,7 @@ namespace kestra {
 namespace {
 
 std::string makeScript(const TempDirectory& directory, const std::string& name, const std::string& body) {
-  const std::string path = directory.at(name);
+  std::string path = directory.at(name);
   writeText(path, "#!/bin/sh\n" + body);
   ::chmod(path.c_str(), 0755);
   return path;

@@ -15,7 +15,7 @@ class ProcessEndings : public testing::Test {
  protected:
   // Writes its process numbers, the program's own and that of a program which it has started, to "pids".
   std::string script(const std::string& first, const std::string& last) {
-    const std::string path = directory.at("script");
+    std::string path = directory.at("script");
     writeText(path, "#!/bin/sh\n" + first + "\nsleep 600 &\necho $$ $! >" + directory.at("pids.new") + "\nmv " +
                         directory.at("pids.new") + " " + directory.at("pids") + "\n" + last + "\n");
     ::chmod(path.c_str(), 0755);
