@@ -45,6 +45,7 @@ const std::vector<Operation>& operations() {
     std::vector<Operation> all;
     append(all, recordOperations());
     append(all, shellOperations());
+    append(all, auxOperations());
     return all;
   }();
   return kOperations;

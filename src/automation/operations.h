@@ -38,6 +38,7 @@ struct Operation {
 // The operations of the system that scripts can call, by family.
 std::vector<Operation> recordOperations();
 std::vector<Operation> shellOperations();
+std::vector<Operation> auxOperations();
 
 // Every one of them.
 const std::vector<Operation>& operations();

@@ -3,6 +3,8 @@
 #include <functional>
 #include <map>
 
+#include "automation/aux_values.h"
+
 namespace kestra {
 namespace {
 
@@ -57,6 +59,9 @@ const std::map<std::string, Reader>& readers() {
       {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
       {"fieldTitles", [](const Application& a) -> Json { return a.shell.catalogues.fieldTitles; }},
       {"fieldCount", titleCounts},
+      {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
+      {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
+      {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},
   };
   return kReaders;
 }

@@ -4,14 +4,19 @@ namespace kestra {
 
 InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : context{base, desktop, {}} {
   context.screens.projectInformation = &projectInformation;
+  context.screens.auxSpillways = &auxSpillways;
+  context.screens.auxRatingTable = &auxRatingTable;
+  context.screens.auxSpillwayProfile = &auxSpillwayProfile;
+  context.screens.dist = &dist;
 }
 
 void InputScreenSet::enterAll(ScreenHost& host) {
   for (Screen* screen : sequence()) host.enter(*screen);
+  host.enter(dist);
 }
 
 std::vector<Screen*> InputScreenSet::sequence() {
-  return {&projectInformation};
+  return {&projectInformation, &auxSpillways, &auxRatingTable, &auxSpillwayProfile};
 }
 
 }  // namespace kestra
