@@ -46,6 +46,7 @@ const std::vector<Operation>& operations() {
     append(all, recordOperations());
     append(all, shellOperations());
     append(all, spillwayOperations());
+    append(all, auxOperations());
     return all;
   }();
   return kOperations;

@@ -39,6 +39,7 @@ struct Operation {
 std::vector<Operation> recordOperations();
 std::vector<Operation> shellOperations();
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
+std::vector<Operation> auxOperations();
 
 // Every one of them.
 const std::vector<Operation>& operations();

@@ -43,7 +43,7 @@ std::vector<Operation> shellOperations() {
   add(list, "ParsePathName", {"path"},
       [](Application&, const Given& a) -> Json { return std::string(ParsePathName(a.text(0))); });
   list.push_back({"UnloadAllScreens", {}, [](Application& application, const Given&) -> Json {
-                    UnloadAllScreens(application.context);
+                    UnloadAllScreens(application.shell.input.context);
                     return nullptr;
                   }});
   list.push_back({"LoadFieldCatalogues", {}, [](Application& application, const Given&) -> Json {

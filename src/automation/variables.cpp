@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 
+#include "automation/aux_values.h"
 #include "base/numbers.h"
 
 namespace kestra {
@@ -71,6 +72,9 @@ const std::map<std::string, Reader>& readers() {
       {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
       {"fieldTitles", titlesByIndex},
       {"fieldCount", titleCounts},
+      {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
+      {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
+      {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},
   };
   return kReaders;
 }

@@ -134,6 +134,11 @@ void ChoiceList::userDoubleClick() {
   if (onDoubleClick) onDoubleClick();
 }
 
+void ChoiceList::userKey(const Key& key) {
+  const Gesture gesture(history(), nullptr);
+  if (onKeyPress) onKeyPress(key);
+}
+
 void ChoiceList::keepDesign() {
   Control::keepDesign();
   designItems_ = items_;

@@ -79,12 +79,14 @@ class ChoiceList : public Control {
   bool userSelect(int index);              // false, and nothing happens, where there is no such entry
   bool userSelect(std::string_view text);  // likewise; an editable combo takes any text
   void userDoubleClick();
+  void userKey(const Key& key) override;
 
   void keepDesign() override;
   void restoreDesign() override;
 
   std::function<void()> onClick;
   std::function<void()> onDoubleClick;
+  std::function<void(const Key&)> onKeyPress;
 
  private:
   int indexOf(std::string_view text) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <deque>
 #include <string>
@@ -23,6 +24,16 @@ class ControlArray {
   template <class... Args>
   ControlArray(Screen& screen, const std::string& name, int first, int count, Args&&... args) : first_(first) {
     for (int i = 0; i < count; ++i) members_.emplace_back(screen, memberName(name, first + i), args...);
+  }
+
+  // A member for each of `own`, which is its first argument behind the name: its option group, its caption.
+  template <class Own, std::size_t count, class... Args>
+  ControlArray(Screen& screen, const std::string& name, int first, std::array<Own, count>& own, const Args&... args)
+      : first_(first) {
+    for (Own& each : own) {
+      const int index = first + static_cast<int>(members_.size());
+      members_.emplace_back(screen, memberName(name, index), each, args...);
+    }
   }
 
   C& operator()(int index) { return members_[at(index)]; }

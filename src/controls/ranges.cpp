@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/undo_history.h"
+
 namespace kestra {
 
 Range::Range(Screen& screen, std::string name, ControlKind kind, double minimum, double maximum)
@@ -43,12 +45,14 @@ Tabs::Tabs(Screen& screen, std::string name, std::vector<std::string> captions)
 
 void Tabs::setIndex(int index) {
   if (index < 0 || index >= static_cast<int>(captions_.size())) return;
+  if (UndoHistory* kept = history()) kept->keep(index_, this, Property::value, false);
   index_ = index;
   changed(Property::value);
 }
 
 bool Tabs::userSelect(int index) {
   if (index < 0 || index >= static_cast<int>(captions_.size())) return false;
+  const Gesture gesture(history(), nullptr);
   const int previous = index_;
   setIndex(index);
   if (onClick) onClick(previous);

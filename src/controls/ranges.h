@@ -45,7 +45,7 @@ class Gauge : public Range {
       : Range(screen, std::move(name), ControlKind::gauge, minimum, maximum) {}
 };
 
-// Pages of which one is on show.
+// Pages of which one is on show. Changing the page is no edit, but is undone with what its handler changed.
 class Tabs : public Control {
  public:
   Tabs(Screen& screen, std::string name, std::vector<std::string> captions);

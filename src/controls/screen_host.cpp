@@ -1,8 +1,26 @@
 #include "controls/screen_host.h"
 
 #include <cassert>
+#include <utility>
 
 namespace kestra {
+
+namespace {
+
+// Nothing is kept for undoing while it lives: what a screen is loaded with is nobody's edit.
+class HistoryPause {
+ public:
+  explicit HistoryPause(UndoHistory*& history) : history_(history), paused_(std::exchange(history, nullptr)) {}
+  ~HistoryPause() { history_ = paused_; }
+  HistoryPause(const HistoryPause&) = delete;
+  HistoryPause& operator=(const HistoryPause&) = delete;
+
+ private:
+  UndoHistory*& history_;
+  UndoHistory* paused_;
+};
+
+}  // namespace
 
 void ScreenHost::enter(Screen& screen) {
   assert(find(screen.name()) == nullptr);
@@ -20,6 +38,7 @@ Screen* ScreenHost::find(std::string_view name) const {
 void ScreenHost::load(Screen& screen) {
   if (screen.loaded_) return;
   screen.loaded_ = true;
+  const HistoryPause pause(history_);
   screen.load();
 }
 

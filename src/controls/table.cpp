@@ -13,6 +13,7 @@ Table::Table(Screen& screen, std::string name, Size size)
       cells_(static_cast<std::size_t>(size.rows) * static_cast<std::size_t>(size.columns)),
       columnWidths_(static_cast<std::size_t>(size.columns)),
       rowHeights_(static_cast<std::size_t>(size.rows)),
+      rowsShown_(static_cast<std::size_t>(size.rows), true),
       centred_(static_cast<std::size_t>(size.columns)),
       cursor_{size.fixedRows, size.fixedColumns},
       corner_(cursor_) {}
@@ -36,6 +37,11 @@ void Table::setCell(int row, int column, std::string text) {
   if (cell == text) return;
   if (UndoHistory* kept = history()) kept->keepCell(*this, cell);
   cell = std::move(text);
+  changed(Property::cells);
+}
+
+void Table::setRowShown(int row, bool shown) {
+  rowsShown_[static_cast<std::size_t>(row)] = shown;
   changed(Property::cells);
 }
 

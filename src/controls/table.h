@@ -55,6 +55,9 @@ class Table : public Control {
   int columnWidth(int column) const { return columnWidths_[static_cast<std::size_t>(column)]; }
   void setRowHeight(int row, int twips) { rowHeights_[static_cast<std::size_t>(row)] = twips; }
   int rowHeight(int row) const { return rowHeights_[static_cast<std::size_t>(row)]; }
+  // A row that is not shown keeps its place and its texts.
+  void setRowShown(int row, bool shown);
+  bool rowShown(int row) const { return rowsShown_[static_cast<std::size_t>(row)]; }
   void setCentred(int column, bool centred) { centred_[static_cast<std::size_t>(column)] = centred; }
   bool centred(int column) const { return centred_[static_cast<std::size_t>(column)]; }
 
@@ -80,6 +83,7 @@ class Table : public Control {
   std::vector<std::string> designCells_;
   std::vector<int> columnWidths_;
   std::vector<int> rowHeights_;
+  std::vector<bool> rowsShown_;
   std::vector<bool> centred_;
   CellPosition cursor_;
   CellPosition corner_;

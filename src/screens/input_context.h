@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "screens/aux_store.h"
 #include "screens/screen_context.h"
 
 namespace kestra {
@@ -53,6 +54,7 @@ struct InputContext {
   ScreenContext& base;
   InputDesktop& desktop;
   InputScreens screens;
+  AuxStore aux{};  // what the auxiliary spillways' screens enter, and the generator reads
 };
 
 // Whether the structure table carries discharges of its own: a cell that is not blank in column 2, rows 1 to 50. Such a

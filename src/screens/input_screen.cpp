@@ -15,12 +15,17 @@ InputScreen::InputScreen(InputContext& context, std::string name, std::string ti
   cmdHelp.onClick = [this] { context_.base.ports.help.showTopic(this->helpTopic()); };
   mnuUndo.onClick = [this] {
     UndoHistory* history = context_.base.host.history();
-    if (history != nullptr && history->undo()) context_.base.state.fileDirty = true;
+    if (history != nullptr && history->undo()) followHistory();
   };
   mnuRedo.onClick = [this] {
     UndoHistory* history = context_.base.host.history();
-    if (history != nullptr && history->redo()) context_.base.state.fileDirty = true;
+    if (history != nullptr && history->redo()) followHistory();
   };
+}
+
+void InputScreen::followHistory() {
+  context_.base.state.fileDirty = true;
+  undone();
 }
 
 void InputScreen::goHome() {

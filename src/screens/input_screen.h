@@ -28,6 +28,7 @@ class InputScreen : public Screen {
   virtual void goHome();
   virtual std::string helpTopic() const { return helpTopic_; }  // "html\StructureTable.htm"
   bool queryUnload(CloseReason reason, bool bExiting) override;
+  virtual void undone() {}  // values were undone or redone: what the screen derives from them follows
 
   void moveTo(Screen& target);           // shows it and hides this screen
   void moveTo(const std::string& name);  // a screen by its name
@@ -39,6 +40,8 @@ class InputScreen : public Screen {
   InputContext& context_;
 
  private:
+  void followHistory();
+
   std::string helpTopic_;
 };
 

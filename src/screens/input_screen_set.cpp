@@ -10,14 +10,20 @@ InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : con
   context.screens.psConduit = &psConduit;
   context.screens.psRatingTable = &psRatingTable;
   context.screens.headcut = &headcut;
+  context.screens.auxSpillways = &auxSpillways;
+  context.screens.auxRatingTable = &auxRatingTable;
+  context.screens.auxSpillwayProfile = &auxSpillwayProfile;
+  context.screens.dist = &dist;
 }
 
 void InputScreenSet::enterAll(ScreenHost& host) {
   for (Screen* screen : sequence()) host.enter(*screen);
+  host.enter(dist);
 }
 
 std::vector<Screen*> InputScreenSet::sequence() {
-  return {&projectInformation, &properties, &damSurface, &psType, &psConduit, &psRatingTable, &headcut};
+  return {&projectInformation, &properties,     &damSurface,         &psType, &psConduit, &psRatingTable,
+          &auxSpillways,       &auxRatingTable, &auxSpillwayProfile, &headcut};
 }
 
 }  // namespace kestra

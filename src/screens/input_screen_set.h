@@ -1,6 +1,10 @@
 #pragma once
 
+#include "screens/frm_aux_rating_table.h"
+#include "screens/frm_aux_spillway_profile.h"
+#include "screens/frm_aux_spillways.h"
 #include "screens/frm_dam_surface.h"
+#include "screens/frm_dist.h"
 #include "screens/frm_headcut.h"
 #include "screens/frm_project_information.h"
 #include "screens/frm_ps_conduit.h"
@@ -23,6 +27,10 @@ class InputScreenSet {
   frmPSConduit psConduit{context};
   frmPSRatingTable psRatingTable{context};
   frmHeadcut headcut{context};
+  frmAuxSpillways auxSpillways{context};
+  frmAuxRatingTable auxRatingTable{context};
+  frmAuxSpillwayProfile auxSpillwayProfile{context};
+  frmDist dist{context};
 
   void enterAll(ScreenHost& host);
   // Those of the Next sequence, in its order.

@@ -31,11 +31,13 @@ std::string openFrameTitle(const std::string& directory) {
 
 }  // namespace
 
-void UnloadAllScreens(ScreenContext& context) {
+void UnloadAllScreens(InputContext& input) {
+  ScreenContext& context = input.base;
   context.state.bExiting = true;
   for (const char* name : kUnloadOrder) {
     if (Screen* screen = context.host.find(name)) context.host.unload(*screen);
   }
+  input.aux.ClearAuxData();
   context.state.bExiting = false;
   if (UndoHistory* history = context.host.history()) history->clear();
 }
@@ -120,7 +122,7 @@ bool Projects::isWithin(const std::string& directory) const {
 // Closes all windows of the project and forgets its file.
 void Projects::closeWindows() {
   ApplicationState& state = context_.state;
-  UnloadAllScreens(context_);
+  UnloadAllScreens(inputs_);
   state.bExiting = true;
   top_.windows().unloadOthers();
   context_.host.unload(input_);

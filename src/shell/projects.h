@@ -3,22 +3,23 @@
 #include <memory>
 #include <string>
 
-#include "screens/screen_context.h"
+#include "screens/input_context.h"
 #include "shell/frm_kestra.h"
 #include "shell/frm_top_screen.h"
 
 namespace kestra {
 
-// Unloads every screen but the frame and the input window, so that each comes back with its design defaults. No screen
-// asks anything meanwhile.
-void UnloadAllScreens(ScreenContext& context);
+// Unloads every screen but the frame and the input window, so that each comes back with its design defaults, and
+// empties the stores of the auxiliary spillways. No screen asks anything meanwhile.
+void UnloadAllScreens(InputContext& input);
 
 enum class Opening { opened, wasOpen, refused };
 
 // The one open project: entering it, leaving it, and holding it against other programs.
 class Projects {
  public:
-  Projects(ScreenContext& context, frmTopScreen& top, frmKestra& input) : context_(context), top_(top), input_(input) {}
+  Projects(InputContext& inputs, frmTopScreen& top, frmKestra& input)
+      : inputs_(inputs), context_(inputs.base), top_(top), input_(input) {}
 
   // Opens the project directory under the given title of the frame. It becomes the current directory. Another program
   // that has it is told of in a box, and the project is then open for looking only.
@@ -41,6 +42,7 @@ class Projects {
   void hold(const std::string& directory);
   bool tryHold(const std::string& directory, std::string& holder);
 
+  InputContext& inputs_;
   ScreenContext& context_;
   frmTopScreen& top_;
   frmKestra& input_;

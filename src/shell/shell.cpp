@@ -22,7 +22,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     : topScreen(context, applicationDirectory),
       inputWindow(context, topScreen),
       input(context, inputWindow),
-      projects(context, topScreen, inputWindow),
+      projects(input.context, topScreen, inputWindow),
       newProject(context, projects),
       openProject(context, projects),
       deleteProject(context, projects, topScreen, applicationDirectory),
@@ -82,7 +82,7 @@ void Shell::openCommandLine(std::string path) {
 void Shell::end() {
   projects.release();
   topScreen.saveRecentProjects();
-  UnloadAllScreens(context_);
+  UnloadAllScreens(input.context);
   ended_ = true;
 }
 
