@@ -44,7 +44,7 @@ class UndoHistory {
   void keep(T& value) {
     keep(value, nullptr, Property::value, true);
   }
-  void keepCell(Table& table, std::string& cell);
+  void keepCell(Table& table, std::size_t index, const std::string& text);
 
   bool canUndo() const { return !done_.empty(); }
   bool canRedo() const { return !undone_.empty(); }
