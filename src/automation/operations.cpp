@@ -45,6 +45,8 @@ const std::vector<Operation>& operations() {
     std::vector<Operation> all;
     append(all, recordOperations());
     append(all, shellOperations());
+    append(all, structureOperations());
+    append(all, hydrographOperations());
     return all;
   }();
   return kOperations;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "screens/frm_hydrograph_data.h"
+#include "screens/frm_hydrograph_select.h"
 #include "screens/frm_project_information.h"
+#include "screens/frm_structure_table.h"
 
 namespace kestra {
 
@@ -11,6 +14,9 @@ class InputScreenSet {
 
   InputContext context;
   frmProjectInformation projectInformation{context};
+  frmStructureTable structureTable{context};
+  frmHydrographData hydrographData{context};
+  frmHydrographSelect hydrographSelect{context};
 
   void enterAll(ScreenHost& host);
   // Those of the Next sequence, in its order.
