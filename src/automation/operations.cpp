@@ -47,6 +47,8 @@ const std::vector<Operation>& operations() {
     append(all, shellOperations());
     append(all, spillwayOperations());
     append(all, auxOperations());
+    append(all, structureOperations());
+    append(all, hydrographOperations());
     return all;
   }();
   return kOperations;

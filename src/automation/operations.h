@@ -36,10 +36,12 @@ struct Operation {
 };
 
 // The operations of the system that scripts can call, by family.
+std::vector<Operation> hydrographOperations();
 std::vector<Operation> recordOperations();
 std::vector<Operation> shellOperations();
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
 std::vector<Operation> auxOperations();
+std::vector<Operation> structureOperations();
 
 // Every one of them.
 const std::vector<Operation>& operations();

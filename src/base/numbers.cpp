@@ -1,7 +1,11 @@
 #include "base/numbers.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <iterator>
 #include <limits>
+#include <utility>
 
 #include "base/text.h"
 
@@ -55,6 +59,15 @@ double outOfRange(std::string_view number) {
   return number.front() == '-' ? -infinite : infinite;
 }
 
+// Significant digits, the first of them standing for 10 to the `exponent`, with the point and the zeros they need.
+std::string placePoint(std::string digits, int exponent) {
+  if (exponent < 0) return "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+  const auto before = static_cast<std::size_t>(exponent) + 1;
+  if (digits.size() < before) digits.resize(before, '0');
+  if (digits.size() > before) digits.insert(before, 1, '.');
+  return digits;
+}
+
 }  // namespace
 
 double lenientNumber(std::string_view text) {
@@ -71,6 +84,31 @@ std::optional<long long> wholeNumber(std::string_view text) {
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   if (result.ec != std::errc() || result.ptr != text.data() + text.size()) return std::nullopt;
   return value;
+}
+
+std::optional<double> realNumber(std::string_view text) {
+  text = trim(text);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+  double value = 0.0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec != std::errc() || result.ptr != text.data() + text.size() || !std::isfinite(value)) return std::nullopt;
+  return value;
+}
+
+std::string decimalNumber(double value, int digits) {
+  if (std::isnan(value)) return "nan";
+  if (std::isinf(value)) return value > 0 ? "inf" : "-inf";
+  char buffer[40];
+  const auto written =
+      std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::scientific, digits - 1);
+  const std::string_view scientific(buffer, static_cast<std::size_t>(written.ptr - buffer));
+  const std::size_t mark = scientific.find('e');
+  const auto exponent = static_cast<int>(lenientNumber(scientific.substr(mark + 1)));
+  std::string text;
+  std::copy_if(scientific.begin(), scientific.begin() + mark, std::back_inserter(text), isDigit);
+  text.resize(text.find_last_not_of('0') + 1);
+  if (text.empty()) return "0";
+  return (value < 0 ? "-" : "") + placePoint(std::move(text), exponent);
 }
 
 std::string generalNumber(double value) {

@@ -18,4 +18,12 @@ std::optional<long long> wholeNumber(std::string_view text);
 // Shortest general number text of at most 15 significant digits: "0.5", "1234", "1E+20", "-1.5E-07".
 std::string generalNumber(double value);
 
+// The whole text, blanks around it aside, as a number; nothing when it is anything else or beyond the range of a
+// double.
+std::optional<double> realNumber(std::string_view text);
+
+// Plain decimal text, never with an exponent, of at most `digits` significant digits (1 to 17) without zeros at its
+// end: "0.5", "12000", "0.00000012". What is not finite is "inf", "-inf" or "nan".
+std::string decimalNumber(double value, int digits = 15);
+
 }  // namespace kestra

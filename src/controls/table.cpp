@@ -10,16 +10,32 @@ namespace kestra {
 Table::Table(Screen& screen, std::string name, Size size)
     : Control(screen, std::move(name), ControlKind::table),
       size_(size),
+      designRows_(size.rows),
       cells_(static_cast<std::size_t>(size.rows) * static_cast<std::size_t>(size.columns)),
       columnWidths_(static_cast<std::size_t>(size.columns)),
       rowHeights_(static_cast<std::size_t>(size.rows)),
       rowsShown_(static_cast<std::size_t>(size.rows), true),
       centred_(static_cast<std::size_t>(size.columns)),
+      rightAligned_(static_cast<std::size_t>(size.columns)),
       cursor_{size.fixedRows, size.fixedColumns},
       corner_(cursor_) {}
 
 bool Table::holds(CellPosition at) const {
   return at.row >= 0 && at.row < size_.rows && at.column >= 0 && at.column < size_.columns;
+}
+
+void Table::growTo(int rows) {
+  if (rows <= size_.rows) return;
+  if (UndoHistory* kept = history()) kept->keep(size_.rows, this, Property::cells, true);
+  size_.rows = rows;
+  const std::size_t wanted = indexOf(rows, 0);
+  if (cells_.size() < wanted) cells_.resize(wanted);
+  if (rowHeights_.size() < static_cast<std::size_t>(rows)) rowHeights_.resize(static_cast<std::size_t>(rows));
+  changed(Property::cells);
+}
+
+void Table::swapCell(std::size_t index, std::string& text) {
+  if (index < cells_.size()) cells_[index].swap(text);
 }
 
 std::size_t Table::indexOf(int row, int column) const {
@@ -33,9 +49,10 @@ const std::string& Table::cell(int row, int column) const {
 
 void Table::setCell(int row, int column, std::string text) {
   if (!holds({row, column})) return;
-  std::string& cell = cells_[indexOf(row, column)];
+  const std::size_t index = indexOf(row, column);
+  std::string& cell = cells_[index];
   if (cell == text) return;
-  if (UndoHistory* kept = history()) kept->keepCell(*this, cell);
+  if (UndoHistory* kept = history()) kept->keepCell(*this, index, cell);
   cell = std::move(text);
   changed(Property::cells);
 }
@@ -103,12 +120,14 @@ void Table::userDoubleClick() {
 
 void Table::keepDesign() {
   Control::keepDesign();
+  designRows_ = size_.rows;
   designCells_ = cells_;
 }
 
 void Table::restoreDesign() {
   Control::restoreDesign();
-  cells_ = designCells_;
+  size_.rows = designRows_;
+  std::fill(std::copy(designCells_.begin(), designCells_.end(), cells_.begin()), cells_.end(), std::string());
   changed(Property::cells);
   setCursor({size_.fixedRows, size_.fixedColumns});
 }

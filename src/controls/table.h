@@ -15,8 +15,8 @@ struct CellPosition {
   bool operator==(const CellPosition&) const = default;
 };
 
-// A table of texts of a fixed size, its first rows and columns being headings. Rows and columns count from 0, the
-// headings included. A position outside the table reads as empty and is not written.
+// A table of texts, its first rows and columns being headings. Rows and columns count from 0, the headings included. A
+// position outside the table reads as empty and is not written. Commands never change its size; a program may add rows.
 class Table : public Control {
  public:
   struct Size {
@@ -33,6 +33,7 @@ class Table : public Control {
   int fixedRows() const { return size_.fixedRows; }
   int fixedColumns() const { return size_.fixedColumns; }
   bool holds(CellPosition at) const;
+  void growTo(int rows);  // adds empty rows at the end; no effect on a table that has as many
 
   const std::string& cell(int row, int column) const;
   void setCell(int row, int column, std::string text);
@@ -49,8 +50,8 @@ class Table : public Control {
   const std::string& currentText() const { return cell(cursor_.row, cursor_.column); }
   void setCurrentText(std::string text) { setCell(cursor_.row, cursor_.column, std::move(text)); }
 
-  // Widths of columns and heights of rows, in twips (1/1440 inch), and whether a column is centred; 0: as the window
-  // likes.
+  // Widths of columns and heights of rows, in twips (1/1440 inch), and whether a column is centred or on the right;
+  // 0: as the window likes.
   void setColumnWidth(int column, int twips) { columnWidths_[static_cast<std::size_t>(column)] = twips; }
   int columnWidth(int column) const { return columnWidths_[static_cast<std::size_t>(column)]; }
   void setRowHeight(int row, int twips) { rowHeights_[static_cast<std::size_t>(row)] = twips; }
@@ -60,12 +61,17 @@ class Table : public Control {
   bool rowShown(int row) const { return rowsShown_[static_cast<std::size_t>(row)]; }
   void setCentred(int column, bool centred) { centred_[static_cast<std::size_t>(column)] = centred; }
   bool centred(int column) const { return centred_[static_cast<std::size_t>(column)]; }
+  void setRightAligned(int column, bool right) { rightAligned_[static_cast<std::size_t>(column)] = right; }
+  bool rightAligned(int column) const { return rightAligned_[static_cast<std::size_t>(column)]; }
 
   void userSetBlock(CellPosition at, const std::vector<std::vector<std::string>>& texts);  // one edit
   void userEdited();                                    // the user has changed cells in some other way
   void userSelect(CellPosition from, CellPosition to);  // by mouse or arrow keys
   void userKey(const Key& key) override;
   void userDoubleClick();
+
+  // Exchanges a text with that of a cell, which counts along the rows; nothing happens where there is no such cell.
+  void swapCell(std::size_t index, std::string& text);
 
   void keepDesign() override;
   void restoreDesign() override;
@@ -79,12 +85,14 @@ class Table : public Control {
   std::size_t indexOf(int row, int column) const;
 
   Size size_;
-  std::vector<std::string> cells_;
+  int designRows_;
+  std::vector<std::string> cells_;  // may hold rows that an undo has taken off the table again
   std::vector<std::string> designCells_;
   std::vector<int> columnWidths_;
   std::vector<int> rowHeights_;
   std::vector<bool> rowsShown_;
   std::vector<bool> centred_;
+  std::vector<bool> rightAligned_;
   CellPosition cursor_;
   CellPosition corner_;
 };

@@ -14,9 +14,9 @@ class KeptCells : public UndoChange {
   explicit KeptCells(Table& table) : table_(table) {}
 
   bool isOf(const Table& table) const { return &table == &table_; }
-  void add(std::string& cell) { cells_.emplace_back(&cell, cell); }
+  void add(std::size_t index, const std::string& text) { cells_.emplace_back(index, text); }
   void swap() override {
-    const auto exchange = [](auto& kept) { std::swap(*kept.first, kept.second); };
+    const auto exchange = [this](auto& kept) { table_.swapCell(kept.first, kept.second); };
     if (backwards_) {
       for (auto at = cells_.rbegin(); at != cells_.rend(); ++at) exchange(*at);
     } else {
@@ -25,13 +25,18 @@ class KeptCells : public UndoChange {
     backwards_ = !backwards_;
     undo_detail::tell(table_, Property::cells);
   }
-  std::size_t bytes() const override { return sizeof *this + cells_.capacity() * sizeof cells_[0]; }
-  const void* what() const override { return cells_.front().first; }
+  Place what() const override { return {&table_, cells_.front().first}; }
   bool keepsOne() const override { return cells_.size() == 1; }
+  std::size_t bytes() const override {
+    std::size_t held = sizeof *this + cells_.capacity() * sizeof cells_[0];
+    const std::size_t inPlace = std::string().capacity();
+    for (const auto& [index, text] : cells_) held += text.capacity() > inPlace ? text.capacity() : 0;
+    return held;
+  }
 
  private:
   Table& table_;
-  std::vector<std::pair<std::string*, std::string>> cells_;
+  std::vector<std::pair<std::size_t, std::string>> cells_;
   bool backwards_ = true;  // undoing comes first
 };
 
@@ -59,7 +64,7 @@ void UndoHistory::endGesture() {
   if (step.hasData) take(std::move(step));
 }
 
-void UndoHistory::keepCell(Table& table, std::string& cell) {
+void UndoHistory::keepCell(Table& table, std::size_t index, const std::string& text) {
   if (!recording()) return;
   auto* last = open_.changes.empty() ? nullptr : dynamic_cast<KeptCells*>(open_.changes.back().get());
   if (last == nullptr || !last->isOf(table)) {
@@ -67,7 +72,7 @@ void UndoHistory::keepCell(Table& table, std::string& cell) {
     last = cells.get();
     add(std::move(cells), true);
   }
-  last->add(cell);
+  last->add(index, text);
 }
 
 void UndoHistory::add(std::unique_ptr<UndoChange> change, bool isData) {

@@ -20,7 +20,8 @@ class UndoChange {
   virtual ~UndoChange() = default;
   virtual void swap() = 0;
   virtual std::size_t bytes() const = 0;  // that it holds, roughly
-  virtual const void* what() const = 0;   // the value that it keeps, or the first of them
+  using Place = std::pair<const void*, std::size_t>;
+  virtual Place what() const = 0;  // the value that it keeps, or the first of them
   virtual bool keepsOne() const { return true; }
 };
 
@@ -46,7 +47,7 @@ class UndoHistory {
   void keep(T& value) {
     keep(value, nullptr, Property::value, true);
   }
-  void keepCell(Table& table, std::string& cell);
+  void keepCell(Table& table, std::size_t index, const std::string& text);
 
   bool canUndo() const { return !done_.empty(); }
   bool canRedo() const { return !undone_.empty(); }
@@ -102,7 +103,7 @@ class KeptValue : public UndoChange {
     if (control_ != nullptr) tell(*control_, property_);
   }
   std::size_t bytes() const override { return sizeof *this + heldBytes(kept_); }
-  const void* what() const override { return &value_; }
+  Place what() const override { return {&value_, 0}; }
 
  private:
   T& value_;

@@ -14,16 +14,20 @@ InputScreenSet::InputScreenSet(ScreenContext& base, InputDesktop& desktop) : con
   context.screens.auxRatingTable = &auxRatingTable;
   context.screens.auxSpillwayProfile = &auxSpillwayProfile;
   context.screens.dist = &dist;
+  context.screens.structureTable = &structureTable;
+  context.screens.hydrographData = &hydrographData;
+  context.screens.hydrographSelect = &hydrographSelect;
 }
 
 void InputScreenSet::enterAll(ScreenHost& host) {
   for (Screen* screen : sequence()) host.enter(*screen);
+  host.enter(hydrographSelect);
   host.enter(dist);
 }
 
 std::vector<Screen*> InputScreenSet::sequence() {
-  return {&projectInformation, &properties,     &damSurface,         &psType, &psConduit, &psRatingTable,
-          &auxSpillways,       &auxRatingTable, &auxSpillwayProfile, &headcut};
+  return {&projectInformation, &properties,    &damSurface,   &structureTable, &hydrographData,     &psType,
+          &psConduit,          &psRatingTable, &auxSpillways, &auxRatingTable, &auxSpillwayProfile, &headcut};
 }
 
 }  // namespace kestra

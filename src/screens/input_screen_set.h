@@ -6,10 +6,13 @@
 #include "screens/frm_dam_surface.h"
 #include "screens/frm_dist.h"
 #include "screens/frm_headcut.h"
+#include "screens/frm_hydrograph_data.h"
+#include "screens/frm_hydrograph_select.h"
 #include "screens/frm_project_information.h"
 #include "screens/frm_ps_conduit.h"
 #include "screens/frm_ps_rating_table.h"
 #include "screens/frm_ps_type.h"
+#include "screens/frm_structure_table.h"
 #include "screens/properties.h"
 
 namespace kestra {
@@ -31,6 +34,9 @@ class InputScreenSet {
   frmAuxRatingTable auxRatingTable{context};
   frmAuxSpillwayProfile auxSpillwayProfile{context};
   frmDist dist{context};
+  frmStructureTable structureTable{context};
+  frmHydrographData hydrographData{context};
+  frmHydrographSelect hydrographSelect{context};
 
   void enterAll(ScreenHost& host);
   // Those of the Next sequence, in its order.

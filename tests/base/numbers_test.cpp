@@ -55,5 +55,31 @@ TEST(GeneralNumber, givesTheShortestTextOfFifteenDigits) {
   EXPECT_EQ(generalNumber(-1.5e-7), "-1.5E-07");
 }
 
+TEST(RealNumber, takesTheWholeTextOrNothing) {
+  EXPECT_EQ(realNumber(" 12.50 "), 12.5);
+  EXPECT_EQ(realNumber("+3"), 3);
+  EXPECT_EQ(realNumber("-.5"), -0.5);
+  EXPECT_EQ(realNumber("1E3"), 1000);
+  for (const char* text : {"", " ", "+", "+-1", "1.5ft", "1 2", "1,5", "inf", "nan", "1e999", "0x10", "\t1"}) {
+    EXPECT_FALSE(realNumber(text)) << text;
+  }
+}
+
+TEST(DecimalNumber, neverHasAnExponent) {
+  EXPECT_EQ(decimalNumber(0), "0");
+  EXPECT_EQ(decimalNumber(-0.0), "0");
+  EXPECT_EQ(decimalNumber(12000), "12000");
+  EXPECT_EQ(decimalNumber(0.1 + 0.2), "0.3");
+  EXPECT_EQ(decimalNumber(-2.5), "-2.5");
+  EXPECT_EQ(decimalNumber(24.0 / 16999.0), "0.00141184775575034");
+  EXPECT_EQ(decimalNumber(1.2e-7), "0.00000012");
+  EXPECT_EQ(decimalNumber(1e20), "100000000000000000000");
+  EXPECT_EQ(decimalNumber(99999.96, 6), "100000");
+  EXPECT_EQ(decimalNumber(12.3 - 12, 12), "0.3");
+  EXPECT_EQ(decimalNumber(-kInfinite), "-inf");
+  EXPECT_EQ(decimalNumber(kInfinite), "inf");
+  EXPECT_EQ(decimalNumber(std::numeric_limits<double>::quiet_NaN()), "nan");
+}
+
 }  // namespace
 }  // namespace kestra

@@ -55,5 +55,24 @@ TEST(Table, countsOneEditForABlock) {
   EXPECT_EQ(edits, 1);
 }
 
+TEST(Table, growsByEmptyRowsAndIsOfItsDesignAgainAfterIt) {
+  Stage stage;
+  Table table(stage.screen, "grdTable", {3, 2, 1, 1});
+  table.keepDesign();
+  table.setCell(2, 1, "x");
+  table.growTo(2);
+  EXPECT_EQ(table.rows(), 3);
+  table.growTo(5);
+  EXPECT_EQ(table.rows(), 5);
+  EXPECT_EQ(table.cell(2, 1), "x");
+  table.setCell(4, 1, "y");
+  EXPECT_EQ(table.cell(4, 1), "y");
+  table.restoreDesign();
+  EXPECT_EQ(table.rows(), 3);
+  table.growTo(5);
+  EXPECT_EQ(table.cell(2, 1), "");
+  EXPECT_EQ(table.cell(4, 1), "");
+}
+
 }  // namespace
 }  // namespace kestra

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/ports.h"
+
+namespace kestra {
+
+// Asks for one file. Nothing when the dialog is cancelled, which is not commented on.
+std::optional<std::string> chooseFile(Ports& ports, const FileDialog& dialog);
+
+// The same; an empty name is answered by a warning box and counts as nothing.
+struct NoNameBox {
+  const char* title;
+  const char* text;
+};
+std::optional<std::string> chooseNamedFile(Ports& ports, const FileDialog& dialog, const NoNameBox& noName);
+
+}  // namespace kestra

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <string>
+
+#include "controls/choices.h"
+#include "controls/text_box.h"
+#include "screens/edit_menu.h"
+#include "screens/hydrograph_files.h"
+#include "screens/hydrograph_tables.h"
+#include "screens/table_editor.h"
+
+namespace kestra {
+
+// The reservoir's inflow hydrograph, as discharges at constant steps or as times and discharges, and the conversion
+// between the two.
+class frmHydrographData : public InputScreen {
+ public:
+  static constexpr int kRows = 5001;         // of both tables: a heading and 5000 points
+  static constexpr int kMostRows = 100'001;  // to which a conversion lets them grow
+
+  explicit frmHydrographData(InputContext& context);
+
+  Label lblTitle{*this, "lblTitle", "Title:"};
+  TextBox txtTitle{*this, "txtTitle"};
+  Label lblStartTime{*this, "lblStartTime", "Start Time (hrs):"};
+  TextBox txtStartTime{*this, "txtStartTime"};
+
+  Frame frameDataInputFormat{*this, "frameDataInputFormat", "Data Input Format"};
+  OptionGroup format;
+  OptionButton optConst{*this, "optConst", format, "Constant Time Increment (hrs):", true};
+  TextBox txtConst{*this, "txtConst"};  // hours
+  OptionButton optVariable{*this, "optVariable", format, "Variable Time Increment:"};
+  Table grdTable{*this, "grdTable", {kRows, 2, 1, 1}};  // computed time, hours; discharge, cfs
+  Table varTable{*this, "varTable", {kRows, 2, 1, 0}};  // time, hours; discharge, cfs
+
+  Frame frameConversion{*this, "frameConversion", "Hydrograph Data Conversion"};
+  Label Label3{*this, "Label3", "Final Time Increment (hrs):"};
+  TextBox txtDesired{*this, "txtDesired"};  // hours
+  Button cmdConvert{*this, "cmdConvert", "Convert from Constant Time to Variable Time"};
+
+  Frame frameAdjust{*this, "frameAdjust", "Adjust Computational Time Increment"};
+  CheckBox chkAdjustTimeIncrement{*this, "chkAdjustTimeIncrement", "Automatically adjust time increment during run"};
+
+  Frame Frame3{*this, "Frame3"};  // only without breach analysis
+  CheckBox chk10daydrawdown{*this, "chk10daydrawdown", "Compute drawdown:"};
+  Label lblDrawdownTime{*this, "lblDrawdownTime", "Reference Time (hrs):"};
+  TextBox txtDrawdownTime{*this, "txtDrawdownTime", "240"};
+  Label lblDrawdownElevation{*this, "lblDrawdownElevation", "Reference Elevation:"};
+  TextBox txtDrawdownElevation{*this, "txtDrawdownElevation"};
+  OptionGroup drawdownUnit;
+  OptionButton optPercent{*this, "optPercent", drawdownUnit, "%", true};
+  OptionButton optFeet{*this, "optFeet", drawdownUnit, "ft"};
+
+  Button cmdPlot{*this, "cmdPlot", "P&lot"};
+  EditMenu editMenu;  // of the table on show
+  HydrographFiles files;
+
+  // Writes the time column of grdTable: 0, dt, 2 dt, ... hours.
+  void setRowNum(double dt);
+  // Mode 1: the constant-time table becomes a variable-time one, dt being its step. Mode 2: the reverse, dt being the
+  // step wanted. Any other mode is a RuntimeFault. Too many points for a count are told in a box and change nothing.
+  void convertHydrograph(double dt, int mode);
+  // Resamples the constant-time table to another step.
+  void retimeHydrograph(double oldDt, double newDt);
+
+  void selectForm(bool constant);       // selects the option of the form and shows what belongs to it
+  void setIncrement(std::string text);  // of txtConst, as one that has been accepted
+  void renumber();                      // times by txtConst; none where it holds no step
+  void setHeadings();
+  void setHydrographCode(const std::string& code) { hydrographCode_ = code; }  // from frmHydrographSelect
+  const std::string& hydrographCode() const { return hydrographCode_; }
+
+ protected:
+  void load() override;
+  void activate() override;
+  void unload() override { lastConst_.clear(); }
+  void goNext() override;
+  void goPrevious() override { moveTo("frmStructureTable"); }
+
+ private:
+  void showForm();  // what belongs to the selected option
+  void showDrawdown();
+  void convert();
+  void convertToVariable(double dt);
+  void convertToConstant(double dt, int rows);  // grdTable grows to `rows`
+  bool retime(double oldDt, double newDt);      // false, after a box, when nothing was changed
+  bool resample(double dt, const HydrographPoints& points, ResampledHydrograph& result);
+  void takeFlows(const ResampledHydrograph& resampled);
+  void leaveIncrement();
+  void leaveDesired();
+  void leaveTitle();
+  void refuse(TextBox& field, const std::string& text);
+  void intoData(Table& table);
+  void setLastConst(const std::string& text);
+
+  TableEditor constantEditor_;
+  TableEditor variableEditor_;
+  std::string lastConst_;  // the last accepted text of txtConst
+  std::string hydrographCode_;
+};
+
+}  // namespace kestra

@@ -1,0 +1,231 @@
+#include "screens/hydrograph_files.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "controls/undo_history.h"
+#include "platform/files.h"
+#include "screens/file_choice.h"
+#include "screens/frm_hydrograph_data.h"
+#include "screens/frm_hydrograph_select.h"
+#include "screens/qt40_file.h"
+#include "screens/thy_file.h"
+#include "screens/vhy_file.h"
+
+namespace kestra {
+namespace {
+
+constexpr const char* kTextFilter = "All Files (*.*)|*.*| Text Files (*.txt)|*.txt";
+constexpr const char* kTorveFilter = "All Files (*.*)|*.*| Hydrograph Files (*.VHY)|*.VHY";
+constexpr const char* kThyFilter = "All Files (*.*)|*.*|Hydrograph Data Files (*.THY)|*.THY";
+constexpr const char* kTabFilter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
+constexpr int kVhyColumn = 1;  // the files do not tell theirs
+
+std::size_t pointsOf(const Table& table) {
+  return static_cast<std::size_t>(table.rows() - 1);
+}
+
+void writeColumn(Table& table, const std::vector<std::string>& flows) {
+  table.clearData();
+  int row = 1;
+  for (const std::string& flow : flows) table.setCell(row++, kHydrographFlow, flow);
+}
+
+}  // namespace
+
+HydrographFiles::HydrographFiles(frmHydrographData& screen, InputContext& context)
+    : mnuImportBasix(screen, "mnuImportBasix", "Import BASIX"),
+      mnuImportRivex(screen, "mnuImportRivex", "Import RIVEX"),
+      mnuImportTorve(screen, "mnuImportTorve", "Import TORVE"),
+      mnuImportQT40(screen, "mnuImportQT40", "Import QT-40"),
+      mnuImportTab(screen, "mnuImportTab", "ImportTab-delimited Text"),
+      mnuExport(screen, "mnuExport", "Export TORVE"),
+      mnuExportTab(screen, "mnuExportTab", "Export Tab-delimited Text"),
+      screen_(screen),
+      context_(context) {
+  mnuImportBasix.onClick = [this] { importClocked(mnuImportBasix, readBasix); };
+  mnuImportRivex.onClick = [this] { importClocked(mnuImportRivex, readRivex); };
+  mnuImportTorve.onClick = [this] { importTorve(); };
+  mnuImportQT40.onClick = [this] { importQt40(); };
+  mnuImportTab.onClick = [this] { importTab(); };
+  mnuExport.onClick = [this] { exportThy(); };
+  mnuExportTab.onClick = [this] { exportTab(); };
+}
+
+std::optional<HydrographFiles::TextFile> HydrographFiles::readText(const std::string& path, const std::string& trap) {
+  auto text = context_.base.ports.files.read(path, kReadLimit);
+  if (text) return TextFile{trap, std::move(text).value()};
+  tellFault(trap, path + ": " + text.failure().reason);
+  return std::nullopt;
+}
+
+std::optional<HydrographFiles::TextFile> HydrographFiles::chooseText(const Menu& command, const char* filter) {
+  const auto path = chooseNamedFile(context_.base.ports, {FileDialog::Kind::open, "Open File", filter, 2, {}, false},
+                                    {"Open File", "No filename provided."});
+  if (!path) return std::nullopt;
+  const bool isTab = &command == &mnuImportTab;  // its caption lacks a blank
+  return readText(*path, (isTab ? "Import Tab-delimited Text" : command.caption()) + " File Error");
+}
+
+void HydrographFiles::tellFault(const std::string& trap, const std::string& fault) {
+  if (!fault.empty()) context_.base.ports.boxes.tell(trap, fault, BoxIcon::warning);
+}
+
+void HydrographFiles::takeVariable(const std::vector<HydrographRow>& rows) {
+  screen_.selectForm(false);
+  Table& table = screen_.varTable;
+  table.clearData();
+  int row = 1;
+  for (const auto& [time, flow] : rows) {
+    table.setCell(row, kHydrographTime, time);
+    table.setCell(row++, kHydrographFlow, flow);
+  }
+  screen_.setIncrement("");
+  table.userEdited();
+}
+
+void HydrographFiles::importClocked(const Menu& command, ClockedReader read) {
+  const auto file = chooseText(command, kTextFilter);
+  if (!file) return;
+  const auto hydrograph = read(file->text, pointsOf(screen_.varTable));
+  if (!hydrograph) return tellFault("File Import Error", "Invalid tab-delimited Rivex File");
+  takeVariable(hydrograph->rows);
+  for (const int column : {kHydrographTime, kHydrographFlow}) screen_.varTable.setRightAligned(column, true);
+  screen_.txtStartTime.setText("0.0");
+  screen_.txtTitle.setText(hydrograph->title);
+  tellFault(file->trap, hydrograph->fault);
+  screen_.txtTitle.takeFocus();
+}
+
+void HydrographFiles::importTab() {
+  const auto file = chooseText(mnuImportTab, kTextFilter);
+  if (file) takeVariable(readTabRows(file->text, kMostHydrographPoints));
+}
+
+std::optional<std::string> HydrographFiles::chooseEntry(std::vector<std::string> entries) {
+  frmHydrographSelect* select = context_.screens.hydrographSelect;
+  if (select == nullptr || entries.empty()) return std::nullopt;
+  select->List1.setItems(std::move(entries));
+  select->List1.setIndex(0);
+  screen_.setHydrographCode("");
+  context_.base.host.showModal(*select);
+  if (screen_.hydrographCode().empty()) return std::nullopt;
+  return screen_.hydrographCode();
+}
+
+void HydrographFiles::importQt40() {
+  const auto file = chooseText(mnuImportQT40, kTextFilter);
+  if (!file || !chooseEntry(qt40Headers(file->text))) return;
+  const int hydrographSelected = context_.screens.hydrographSelect->List1.index();
+  const Qt40Hydrograph hydrograph =
+      readQt40(file->text, static_cast<std::size_t>(std::max(hydrographSelected, 0)), kMostHydrographPoints);
+  screen_.txtTitle.setText(hydrograph.title);
+  screen_.txtStartTime.setText(hydrograph.startTime);
+  screen_.setIncrement(hydrograph.increment);
+  screen_.selectForm(true);
+  screen_.setHeadings();
+  writeColumn(screen_.grdTable, hydrograph.flows);
+  screen_.renumber();
+  screen_.grdTable.userEdited();
+  tellFault(file->trap, hydrograph.fault);
+}
+
+void HydrographFiles::importTorve() {
+  const auto file = chooseText(mnuImportTorve, kTorveFilter);
+  if (!file) return;
+  const VhyContent content = scanVhy(file->text);
+  if (content.isThy) {
+    takeThy(file->text);
+    context_.base.host.show(screen_);
+    return;
+  }
+  std::vector<std::string> names;
+  std::string code;
+  for (const auto& named : frmHydrographSelect::namedCodes()) {
+    if (std::find(content.codes.begin(), content.codes.end(), named.code) == content.codes.end()) continue;
+    names.emplace_back(named.name);
+    code = named.code;
+  }
+  if (names.size() > 1) code = chooseEntry(std::move(names)).value_or("");
+  if (!code.empty()) importVhy(*file, code);
+}
+
+void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
+  const VhyHydrograph hydrograph = readVhy(file.text, code, kVhyColumn, kMostHydrographPoints);
+  std::vector<std::string> flows;
+  for (const HydrographRow& row : hydrograph.rows) flows.push_back(row.flow);
+  takeVariable(hydrograph.rows);
+  screen_.selectForm(true);
+  writeColumn(screen_.grdTable, flows);
+  screen_.txtStartTime.setText(hydrograph.startTime);
+  screen_.txtTitle.setText("");
+  screen_.txtDesired.setText(hydrograph.increment);
+  screen_.setIncrement(hydrograph.increment);
+  screen_.renumber();
+  tellFault(file.trap, hydrograph.fault);
+  context_.base.host.show(screen_);
+}
+
+void HydrographFiles::takeThy(std::string_view text) {
+  const auto hydrograph = readThy(text);
+  if (!hydrograph) return;
+  screen_.selectForm(true);
+  screen_.txtTitle.setText(hydrograph->title);
+  screen_.setIncrement(hydrograph->increment);
+  writeColumn(screen_.grdTable, hydrograph->flows);
+  screen_.renumber();
+  screen_.grdTable.userEdited();
+}
+
+void HydrographFiles::LoadHydrographForms(const std::string& fileName) {
+  const Gesture gesture(context_.base.host.history(), nullptr);
+  if (const auto file = readText(fileName, "Import TORVE File Error")) takeThy(file->text);
+}
+
+void HydrographFiles::SaveTable(const std::string& fileName) {
+  ConstantHydrograph hydrograph{screen_.txtTitle.text(), screen_.txtConst.text(), {}};
+  for (int row = 1; row <= kMostHydrographPoints; ++row) {
+    hydrograph.flows.push_back(screen_.grdTable.cell(row, kHydrographFlow));
+  }
+  write(fileName, thyText(hydrograph));
+}
+
+void HydrographFiles::write(const std::string& path, std::string_view text) {
+  const Status written = writeWholeFile(context_.base.ports.files, path, text);
+  if (!written) tellFault("Export File Error", written.failure().path + ": " + written.failure().reason);
+}
+
+void HydrographFiles::exportThy() {
+  if (!screen_.optConst.selected()) return;
+  Ports& ports = context_.base.ports;
+  auto path = chooseFile(ports, {FileDialog::Kind::save, "Save File", kThyFilter, 2, {}, false});
+  if (!path) return;
+  if (path->empty()) {
+    const std::string& project = context_.base.state.projectDir;
+    const std::string directory = project.empty() ? ports.files.currentDirectory() : project;
+    ports.boxes.tell("Save File", "No filename was provided, default to " + joinPath(directory, "hydro.THY"),
+                     BoxIcon::warning);
+    path = joinPath(directory, "torve.THY");
+  }
+  SaveTable(*path);
+}
+
+void HydrographFiles::exportTab() {
+  const auto path =
+      chooseNamedFile(context_.base.ports, {FileDialog::Kind::save, "Select a file", kTabFilter, 2, {}, false},
+                      {"Select a File", "No filename is provided"});
+  if (!path) return;
+  const bool constant = screen_.optConst.selected();
+  const Table& table = constant ? screen_.grdTable : screen_.varTable;
+  std::vector<HydrographRow> rows;
+  for (int row = 1; row <= kMostHydrographPoints; ++row) {
+    HydrographRow point{table.cell(row, kHydrographTime), table.cell(row, kHydrographFlow)};
+    if (!constant || !point.flow.empty()) rows.push_back(std::move(point));
+  }
+  write(*path, tabRowsText(rows));
+}
+
+}  // namespace kestra

@@ -1,0 +1,73 @@
+#include "screens/qt40_file.h"
+
+#include <optional>
+
+#include "base/fields.h"
+#include "base/lines.h"
+#include "base/numbers.h"
+#include "base/text.h"
+
+namespace kestra {
+namespace {
+
+constexpr std::string_view kAnchor = "INPUT HYDROGRAPH:";
+constexpr int kFieldWidth = 10;
+
+std::string trimmed(std::string_view line, int column, int width) {
+  return std::string(trim(columns(line, column, width)));
+}
+
+// Goes on to the header of the next hydrograph; false when there is none.
+bool nextHeader(LineReader& lines, std::string_view& line) {
+  do {
+    if (!lines.next(line)) return false;
+  } while (trim(columns(line, 1, 20)) != kAnchor);
+  do {
+    if (!lines.next(line)) return false;
+  } while (trim(line).empty());
+  return true;
+}
+
+// Adds the discharges of a row; false at one that is no number.
+bool takeRow(std::string_view line, double baseFlow, std::size_t mostFlows, Qt40Hydrograph& hydrograph) {
+  for (int column = 21; column <= 61 && hydrograph.flows.size() < mostFlows; column += kFieldWidth) {
+    const std::string_view field = trim(columns(line, column, kFieldWidth));
+    if (field.empty()) continue;
+    const std::optional<double> value = realNumber(field);
+    if (!value) {
+      hydrograph.fault = "\"" + std::string(field) + "\" is no discharge.";
+      return false;
+    }
+    hydrograph.flows.push_back(decimalNumber(*value + baseFlow, 12));
+  }
+  return true;
+}
+
+}  // namespace
+
+std::vector<std::string> qt40Headers(std::string_view text) {
+  std::vector<std::string> headers;
+  LineReader lines(text);
+  std::string_view line;
+  while (nextHeader(lines, line)) headers.push_back(trimmed(line, 1, 40));
+  return headers;
+}
+
+Qt40Hydrograph readQt40(std::string_view text, std::size_t index, std::size_t mostFlows) {
+  Qt40Hydrograph hydrograph;
+  LineReader lines(text);
+  std::string_view line;
+  for (std::size_t passed = 0; passed <= index; ++passed) {
+    if (!nextHeader(lines, line)) return hydrograph;
+  }
+  hydrograph.title = trimmed(line, 11, kFieldWidth);
+  hydrograph.startTime = trimmed(line, 41, kFieldWidth);
+  hydrograph.increment = trimmed(line, 51, kFieldWidth);
+  const double baseFlow = charCount(line) > 70 ? lenientNumber(columns(line, 71, kFieldWidth)) : 0.0;
+  while (hydrograph.flows.size() < mostFlows && lines.next(line) && trim(columns(line, 1, 20)).empty()) {
+    if (!takeRow(line, baseFlow, mostFlows, hydrograph)) break;
+  }
+  return hydrograph;
+}
+
+}  // namespace kestra

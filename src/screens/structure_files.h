@@ -1,0 +1,32 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The side files of the structure table as texts. A row holds the texts of the table's columns 1 to 4: elevation, ft;
+// principal spillway discharge, cfs; storage, acre-ft; surface area, acres.
+namespace kestra {
+
+using StructureRow = std::array<std::string, 4>;
+
+// A structure-table file (.STR): "STRUCTURE" at column 1 with the identifier from 11 on; a line a point with elevation
+// at 21, surface area at 31, discharge at 41 and storage at 61, ten columns each; "ENDTABLE" at 1.
+struct StructureFile {
+  std::optional<std::string> identifier;  // nothing when the first line ends before it; read: 5 characters
+  std::vector<StructureRow> rows;         // read: 21 at most
+};
+std::optional<StructureFile> readStructureFile(std::string_view text);  // nothing: not in this format
+std::string structureFileText(std::string_view identifier, const std::vector<StructureRow>& rows);
+
+// The rating in the text output of the spillway program: behind the line "RATING TABLE NUMBER  2" and three more, rows
+// up to a line of 21 asterisks, at most 20. Nothing when there is no such line.
+std::optional<std::vector<StructureRow>> readTorveRating(std::string_view text);
+
+// Tab-delimited text, a line a row; missing fields are empty, what is behind the fourth is dropped.
+std::vector<StructureRow> readStructureTabs(std::string_view text, std::size_t mostRows);
+std::string structureTabsText(const std::vector<StructureRow>& rows);  // rows without elevation are left out
+
+}  // namespace kestra

@@ -1,0 +1,137 @@
+#include "screens/tab_hydrographs.h"
+
+#include <utility>
+
+#include "base/fields.h"
+#include "base/lines.h"
+#include "base/numbers.h"
+#include "base/text.h"
+
+namespace kestra {
+namespace {
+
+constexpr std::size_t kTitleLength = 40;
+constexpr long long kMinutesADay = 24 * 60;
+
+// A line of data: what its clock shows, in the unit of its format, and its discharge.
+struct ClockedFlow {
+  std::optional<long long> clock;
+  std::string flow;
+};
+
+// How the lines of a format are read. `minutesBetween` tells the minutes between two clock values in a row.
+struct ClockFormat {
+  bool (*findFirst)(LineReader&, std::string_view&);  // leaves the first line of data, or false
+  ClockedFlow (*read)(std::string_view line);
+  long long (*minutesBetween)(long long earlier, long long later);
+};
+
+bool isBlank(std::string_view line) {
+  return line.find_first_not_of(" \t") == std::string_view::npos;
+}
+
+std::string_view lastCharacters(std::string_view text, std::size_t count) {
+  const std::size_t length = charCount(text);
+  return charsFrom(text, length < count ? 0 : length - count);
+}
+
+// A number of digits only, so that no sign or point passes for a clock.
+std::optional<long long> digitsOnly(std::string_view text) {
+  if (text.find_first_not_of("0123456789 ") != std::string_view::npos) return std::nullopt;
+  return wholeNumber(text);
+}
+
+ClockedFlow readBasixLine(std::string_view line) {
+  const std::string stamp = nextTabField(line);
+  const std::string_view shown = trim(stamp);
+  const auto hour = digitsOnly(charsFrom(stamp, 11, 2));
+  const auto minute = digitsOnly(lastCharacters(shown, 2));
+  std::string flow = nextTabField(line);
+  if (!hour || !minute) return {std::nullopt, std::move(flow)};
+  return {*hour * 60 + *minute, std::move(flow)};
+}
+
+ClockedFlow readRivexLine(std::string_view line) {
+  nextTabField(line);
+  const std::string stamp = nextTabField(line);
+  nextTabField(line);
+  return {digitsOnly(lastCharacters(trim(stamp), 4)), nextTabField(line)};
+}
+
+long long basixMinutes(long long earlier, long long later) {
+  return later > earlier ? later - earlier : later + kMinutesADay - earlier;
+}
+
+long long rivexMinutes(long long earlier, long long later) {
+  const long long difference = later > earlier ? later - earlier : later + 2400 - earlier;
+  return difference / 100 * 60 + difference % 100;
+}
+
+bool behindHyphens(LineReader& lines, std::string_view& line) {
+  while (lines.next(line)) {
+    if (columns(line, 1, 10) != "----------") continue;
+    if (!lines.next(line)) line = {};
+    return true;
+  }
+  return false;
+}
+
+bool atNumberOne(LineReader& lines, std::string_view& line) {
+  while (lines.next(line)) {
+    if (line.starts_with("1\t")) return true;
+  }
+  return false;
+}
+
+std::optional<TabHydrograph> readClocked(std::string_view text, std::size_t mostRows, const ClockFormat& format) {
+  TabHydrograph hydrograph;
+  LineReader lines(text);
+  std::string_view line;
+  if (lines.next(line)) hydrograph.title = charsFrom(nextTabField(line), 0, kTitleLength);
+  if (!format.findFirst(lines, line)) return std::nullopt;
+  long long minutes = 0;
+  long long before = 0;
+  do {
+    if (isBlank(line)) continue;
+    ClockedFlow point = format.read(line);
+    if (!point.clock) {
+      hydrograph.fault = "Line " + std::to_string(lines.lineNumber()) + " holds no clock time.";
+      break;
+    }
+    if (!hydrograph.rows.empty()) minutes += format.minutesBetween(before, *point.clock);
+    before = *point.clock;
+    hydrograph.rows.push_back({decimalNumber(static_cast<double>(minutes) / 60), std::move(point.flow)});
+  } while (hydrograph.rows.size() < mostRows && lines.next(line));
+  return hydrograph;
+}
+
+}  // namespace
+
+std::optional<TabHydrograph> readBasix(std::string_view text, std::size_t mostRows) {
+  return readClocked(text, mostRows, {behindHyphens, readBasixLine, basixMinutes});
+}
+
+std::optional<TabHydrograph> readRivex(std::string_view text, std::size_t mostRows) {
+  return readClocked(text, mostRows, {atNumberOne, readRivexLine, rivexMinutes});
+}
+
+std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows) {
+  std::vector<HydrographRow> rows;
+  LineReader lines(text);
+  std::string_view line;
+  while (rows.size() < mostRows && lines.next(line)) {
+    std::string time = nextTabField(line);
+    rows.push_back({std::move(time), nextTabField(line)});
+  }
+  return rows;
+}
+
+std::string tabRowsText(const std::vector<HydrographRow>& rows) {
+  std::string text;
+  for (const auto& [time, flow] : rows) {
+    if (!time.empty() || !flow.empty()) text.append(time).append("\t").append(flow).append(kCrLf);
+  }
+  return text;
+}
+
+}  // namespace kestra
