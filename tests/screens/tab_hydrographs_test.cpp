@@ -36,7 +36,8 @@ TEST(ReadBasix, doesNotDriftOverManySmallSteps) {
 }
 
 TEST(ReadBasix, stopsAtALineWithoutTimeAndKeepsTheRowsBefore) {
-  for (const char* line : {"06/01/2001 xx:15\t3\n", "06/01/2001 12:-5\t3\n", "total\t3\n", "06/01/2001 1.:15\t3\n"}) {
+  for (const char* line : {"06/01/2001 xx:15\t3\n", "06/01/2001 12:-5\t3\n", "total\t3\n", "06/01/2001 1.:15\t3\n",
+                           "06/01/2001 24:01\t3\n"}) {
     const auto read = readBasix(kBasix + "06/01/2001 12:00\t10\n" + line + "06/01/2001 13:00\t4\n", 100);
     EXPECT_EQ(read->rows, (Rows{{"0", "10"}})) << line;
     EXPECT_EQ(read->fault, "Line 5 holds no clock time.") << line;
@@ -81,9 +82,11 @@ TEST(ReadRivex, subtractsClocksAsPlainNumbers) {
 }
 
 TEST(ReadRivex, stopsAtALineWithoutTime) {
-  const auto read = readRivex(kRivex + "1\t01Jan2001, 0100\t-\t10\n2\tlater\t-\t11\n", 100);
-  EXPECT_EQ(read->rows, (Rows{{"0", "10"}}));
-  EXPECT_EQ(read->fault, "Line 5 holds no clock time.");
+  for (const char* stamp : {"later", "01Jan2001, 2401", "01Jan2001, 9990", ""}) {
+    const auto read = readRivex(kRivex + "1\t01Jan2001, 0100\t-\t10\n2\t" + stamp + "\t-\t11\n", 100);
+    EXPECT_EQ(read->rows, (Rows{{"0", "10"}})) << stamp;
+    EXPECT_EQ(read->fault, "Line 5 holds no clock time.") << stamp;
+  }
 }
 
 TEST(ReadRivex, wantsALineThatBeginsWithOneAndATab) {

@@ -49,7 +49,7 @@ TEST(ReadThy, readsBackThePointsWhateverTheirCount) {
 }
 
 TEST(ReadThy, keepsTheRowOfADischargeBehindAnEmptyOne) {
-  const std::vector<std::string> flows = {"1", "", "3"};
+  const std::vector<std::string> flows = {"1", "", "3", "", "", "6"};
   EXPECT_EQ(readThy(thyText({"", "1", flows}))->flows, flows);
 }
 
