@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::size_t kTitleLength = 40;
 constexpr long long kMinutesADay = 24 * 60;
+constexpr long long kHhmmADay = 2400;
 
 // A line of data: what its clock shows, in the unit of its format, and its discharge.
 struct ClockedFlow {
@@ -24,6 +25,7 @@ struct ClockFormat {
   bool (*findFirst)(LineReader&, std::string_view&);  // leaves the first line of data, or false
   ClockedFlow (*read)(std::string_view line);
   long long (*minutesBetween)(long long earlier, long long later);
+  long long endOfDay;  // the highest clock value
 };
 
 bool isBlank(std::string_view line) {
@@ -63,7 +65,7 @@ long long basixMinutes(long long earlier, long long later) {
 }
 
 long long rivexMinutes(long long earlier, long long later) {
-  const long long difference = later > earlier ? later - earlier : later + 2400 - earlier;
+  const long long difference = later > earlier ? later - earlier : later + kHhmmADay - earlier;
   return difference / 100 * 60 + difference % 100;
 }
 
@@ -94,7 +96,7 @@ std::optional<TabHydrograph> readClocked(std::string_view text, std::size_t most
   do {
     if (isBlank(line)) continue;
     ClockedFlow point = format.read(line);
-    if (!point.clock) {
+    if (!point.clock || *point.clock > format.endOfDay) {
       hydrograph.fault = "Line " + std::to_string(lines.lineNumber()) + " holds no clock time.";
       break;
     }
@@ -108,11 +110,11 @@ std::optional<TabHydrograph> readClocked(std::string_view text, std::size_t most
 }  // namespace
 
 std::optional<TabHydrograph> readBasix(std::string_view text, std::size_t mostRows) {
-  return readClocked(text, mostRows, {behindHyphens, readBasixLine, basixMinutes});
+  return readClocked(text, mostRows, {behindHyphens, readBasixLine, basixMinutes, kMinutesADay});
 }
 
 std::optional<TabHydrograph> readRivex(std::string_view text, std::size_t mostRows) {
-  return readClocked(text, mostRows, {atNumberOne, readRivexLine, rivexMinutes});
+  return readClocked(text, mostRows, {atNumberOne, readRivexLine, rivexMinutes, kHhmmADay});
 }
 
 std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows) {

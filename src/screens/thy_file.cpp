@@ -31,13 +31,17 @@ void put(std::string& line, int column, std::string_view text, int width) {
   line += text;
 }
 
+// A line stands for five rows of the table, whether it reaches their fields or not.
 void takeFlows(std::string_view line, std::vector<std::string>& flows) {
-  const auto length = static_cast<int>(std::min<std::size_t>(charCount(line), 1000));
   int column = kFirstFlow;
-  for (std::size_t i = 0; i < kFlowsALine && column <= length && flows.size() < kMostFlows; ++i) {
+  for (std::size_t i = 0; i < kFlowsALine && flows.size() < kMostFlows; ++i) {
     flows.push_back(trimmed(line, column, kFieldWidth));
     column += kFieldWidth;
   }
+}
+
+void dropEmptyEnd(std::vector<std::string>& flows) {
+  while (!flows.empty() && flows.back().empty()) flows.pop_back();
 }
 
 }  // namespace
@@ -54,6 +58,7 @@ std::optional<ConstantHydrograph> readThy(std::string_view text) {
   while (hydrograph.flows.size() < kMostFlows && lines.next(line) && trim(columns(line, 1, 10)) != "ENDTABLE") {
     takeFlows(line, hydrograph.flows);
   }
+  dropEmptyEnd(hydrograph.flows);
   return hydrograph;
 }
 

@@ -16,7 +16,7 @@ struct ConstantHydrograph {
 
 // A hydrograph file (.THY). Line 1: "HYD" at column 1, title of 40 characters from 31 on. Line 2: increment at 21. Then
 // rows of five discharges at 21, 31, 41, 51 and 61, ten columns each, and "ENDTABLE" at 1. Reading begins at the first
-// line of "HYD"; a field is read when the line reaches it; 5000 discharges at most. Nothing without such a line.
+// line of "HYD"; what a line does not reach is empty; 5000 discharges at most. Nothing without such a line.
 std::optional<ConstantHydrograph> readThy(std::string_view text);
 
 // Writes rows up to the first whose first discharge is empty, or from discharge 4997 on.
