@@ -149,8 +149,7 @@ struct DownRows : testing::Test {
   InputDesk desk;
   EditedScreen screen;
   Table table{screen, "grdTable", {3, 4, 1, 1}};
-  TableEditor editor{
-      table, {PointDirection::downRows, 3, "0123456789.", false, false}, desk.ports, screen.cmdNext};
+  TableEditor editor{table, {PointDirection::downRows, 3, "0123456789.", false, false}, desk.ports, screen.cmdNext};
 
   DownRows() {
     desk.host.enter(screen);
