@@ -13,10 +13,7 @@ Json initializeConduit(Application& application, const Arguments& arguments) {
 }  // namespace
 
 std::vector<Operation> spillwayOperations() {
-  return {{"frmPSConduit.Initialize", {"type"}, initializeConduit},
-          {"hasStructureDischarge", {}, [](Application& application, const Arguments&) -> Json {
-             return hasStructureDischarge(application.shell.input.context);
-           }}};
+  return {{"frmPSConduit.Initialize", {"type"}, initializeConduit}};
 }
 
 }  // namespace kestra
