@@ -1,6 +1,8 @@
 #include "controls/undo_history.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <string_view>
 
 #include "controls/screen.h"
 #include "controls/table.h"
@@ -8,36 +10,49 @@
 namespace kestra {
 namespace {
 
-// Cells of one table, in the order in which they were written.
+// Cells of one table, in the order in which they were written. Their texts stand in one piece, since a step may hold
+// thousands of them.
 class KeptCells : public UndoChange {
  public:
   explicit KeptCells(Table& table) : table_(table) {}
 
   bool isOf(const Table& table) const { return &table == &table_; }
-  void add(std::size_t index, const std::string& text) { cells_.emplace_back(index, text); }
+  void add(std::size_t index, std::string_view text) {
+    cells_.push_back({static_cast<std::uint32_t>(index), static_cast<std::uint32_t>(text.size())});
+    texts_ += text;
+  }
+  void settle() override {
+    cells_.shrink_to_fit();
+    texts_.shrink_to_fit();
+  }
+  // From the last one to the first, which leaves them in the opposite order for the next time.
   void swap() override {
-    const auto exchange = [this](auto& kept) { table_.swapCell(kept.first, kept.second); };
-    if (backwards_) {
-      for (auto at = cells_.rbegin(); at != cells_.rend(); ++at) exchange(*at);
-    } else {
-      for (auto& kept : cells_) exchange(kept);
+    KeptCells exchanged(table_);
+    exchanged.cells_.reserve(cells_.size());
+    std::size_t end = texts_.size();
+    for (auto cell = cells_.rbegin(); cell != cells_.rend(); ++cell) {
+      end -= cell->length;
+      std::string text = texts_.substr(end, cell->length);
+      table_.swapCell(cell->index, text);
+      exchanged.add(cell->index, text);
     }
-    backwards_ = !backwards_;
+    cells_ = std::move(exchanged.cells_);
+    texts_ = std::move(exchanged.texts_);
     undo_detail::tell(table_, Property::cells);
   }
-  Place what() const override { return {&table_, cells_.front().first}; }
+  Place what() const override { return {&table_, cells_.front().index}; }
   bool keepsOne() const override { return cells_.size() == 1; }
-  std::size_t bytes() const override {
-    std::size_t held = sizeof *this + cells_.capacity() * sizeof cells_[0];
-    const std::size_t inPlace = std::string().capacity();
-    for (const auto& [index, text] : cells_) held += text.capacity() > inPlace ? text.capacity() : 0;
-    return held;
-  }
+  std::size_t bytes() const override { return sizeof *this + cells_.capacity() * sizeof cells_[0] + texts_.capacity(); }
 
  private:
+  struct Cell {
+    std::uint32_t index;
+    std::uint32_t length;  // bytes of its text
+  };
+
   Table& table_;
-  std::vector<std::pair<std::size_t, std::string>> cells_;
-  bool backwards_ = true;  // undoing comes first
+  std::vector<Cell> cells_;
+  std::string texts_;
 };
 
 }  // namespace
@@ -82,7 +97,10 @@ void UndoHistory::add(std::unique_ptr<UndoChange> change, bool isData) {
 
 // Takes a finished step in, joined to the one before it when both are keys typed into one place.
 void UndoHistory::take(Step step) {
-  for (const auto& change : step.changes) step.bytes += change->bytes();
+  for (const auto& change : step.changes) {
+    change->settle();
+    step.bytes += change->bytes();
+  }
   const bool joins = step.place != nullptr && undone_.empty() && !done_.empty() && done_.back().place == step.place &&
                      done_.back().cell == step.cell;
   undone_.clear();

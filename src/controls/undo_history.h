@@ -19,6 +19,7 @@ class UndoChange {
  public:
   virtual ~UndoChange() = default;
   virtual void swap() = 0;
+  virtual void settle() {}                // nothing is added any more
   virtual std::size_t bytes() const = 0;  // that it holds, roughly
   using Place = std::pair<const void*, std::size_t>;
   virtual Place what() const = 0;  // the value that it keeps, or the first of them

@@ -130,7 +130,7 @@ void frmHydrographData::setRowNum(double dt) {
 
 void frmHydrographData::renumber() {
   const double dt = lenientNumber(txtConst.text());
-  dt > 0 ? setRowNum(dt) : blankTimes(grdTable);
+  dt > 0 ? setRowNum(dt) : fillColumn(grdTable, kHydrographTime, {});
 }
 
 void frmHydrographData::setIncrement(std::string text) {
@@ -196,14 +196,17 @@ void frmHydrographData::convertToVariable(double dt) {
   varTable.growTo(grdTable.rows());
   selectForm(false);
   txtDesired.setText(tenCharacters(dt));
-  varTable.clearData();
   const double step = lenientNumber(txtDesired.text());
+  std::vector<std::string> times;
+  std::vector<std::string> flows;
   for (int row = 1; row < grdTable.rows(); ++row) {
     const std::string& flow = grdTable.cell(row, kHydrographFlow);
-    if (trim(flow).empty()) continue;
-    varTable.setCell(row, kHydrographTime, decimalNumber((row - 1) * step));
-    varTable.setCell(row, kHydrographFlow, flow);
+    const bool filled = !trim(flow).empty();
+    times.push_back(filled ? decimalNumber((row - 1) * step) : "");
+    flows.push_back(filled ? flow : "");
   }
+  fillColumn(varTable, kHydrographTime, times);
+  fillColumn(varTable, kHydrographFlow, flows);
   varTable.userEdited();
 }
 
@@ -249,7 +252,7 @@ void frmHydrographData::takeFlows(const ResampledHydrograph& resampled) {
                                    "Too many points. Hydrograph truncated from " + count + " to 5000 points.",
                                    BoxIcon::warning);
   }
-  writeFlows(grdTable, resampled.flows);
+  fillFlows(grdTable, resampled.flows);
   setRowNum(lenientNumber(txtConst.text()));
   grdTable.userEdited();
 }

@@ -28,10 +28,10 @@ std::size_t pointsOf(const Table& table) {
   return static_cast<std::size_t>(table.rows() - 1);
 }
 
-void writeColumn(Table& table, const std::vector<std::string>& flows) {
-  table.clearData();
-  int row = 1;
-  for (const std::string& flow : flows) table.setCell(row++, kHydrographFlow, flow);
+std::vector<std::string> textsOf(const std::vector<HydrographRow>& rows, std::string HydrographRow::*text) {
+  std::vector<std::string> texts;
+  for (const HydrographRow& row : rows) texts.push_back(row.*text);
+  return texts;
 }
 
 }  // namespace
@@ -77,12 +77,8 @@ void HydrographFiles::tellFault(const std::string& trap, const std::string& faul
 void HydrographFiles::takeVariable(const std::vector<HydrographRow>& rows) {
   screen_.selectForm(false);
   Table& table = screen_.varTable;
-  table.clearData();
-  int row = 1;
-  for (const auto& [time, flow] : rows) {
-    table.setCell(row, kHydrographTime, time);
-    table.setCell(row++, kHydrographFlow, flow);
-  }
+  fillColumn(table, kHydrographTime, textsOf(rows, &HydrographRow::time));
+  fillColumn(table, kHydrographFlow, textsOf(rows, &HydrographRow::flow));
   screen_.setIncrement("");
   table.userEdited();
 }
@@ -127,7 +123,7 @@ void HydrographFiles::importQt40() {
   screen_.setIncrement(hydrograph.increment);
   screen_.selectForm(true);
   screen_.setHeadings();
-  writeColumn(screen_.grdTable, hydrograph.flows);
+  fillColumn(screen_.grdTable, kHydrographFlow, hydrograph.flows);
   screen_.renumber();
   screen_.grdTable.userEdited();
   tellFault(file->trap, hydrograph.fault);
@@ -155,11 +151,9 @@ void HydrographFiles::importTorve() {
 
 void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
   const VhyHydrograph hydrograph = readVhy(file.text, code, kVhyColumn, kMostHydrographPoints);
-  std::vector<std::string> flows;
-  for (const HydrographRow& row : hydrograph.rows) flows.push_back(row.flow);
   takeVariable(hydrograph.rows);
   screen_.selectForm(true);
-  writeColumn(screen_.grdTable, flows);
+  fillColumn(screen_.grdTable, kHydrographFlow, textsOf(hydrograph.rows, &HydrographRow::flow));
   screen_.txtStartTime.setText(hydrograph.startTime);
   screen_.txtTitle.setText("");
   screen_.txtDesired.setText(hydrograph.increment);
@@ -175,7 +169,7 @@ void HydrographFiles::takeThy(std::string_view text) {
   screen_.selectForm(true);
   screen_.txtTitle.setText(hydrograph->title);
   screen_.setIncrement(hydrograph->increment);
-  writeColumn(screen_.grdTable, hydrograph->flows);
+  fillColumn(screen_.grdTable, kHydrographFlow, hydrograph->flows);
   screen_.renumber();
   screen_.grdTable.userEdited();
 }

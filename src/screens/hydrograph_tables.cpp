@@ -47,22 +47,25 @@ HydrographPoints constantPoints(const Table& table, double dt) {
 }
 
 void numberTimes(Table& table, double dt) {
-  if (!std::isfinite(dt)) return blankTimes(table);
+  if (!std::isfinite(dt)) return fillColumn(table, kHydrographTime, {});
   for (int row = 1; row < table.rows(); ++row) {
     table.setCell(row, kHydrographTime, PadField(decimalNumber((row - 1) * dt), kTextLength));
   }
 }
 
-void blankTimes(Table& table) {
-  for (int row = 1; row < table.rows(); ++row) table.setCell(row, kHydrographTime, {});
+void fillColumn(Table& table, int column, const std::vector<std::string>& texts) {
+  const int filled = static_cast<int>(texts.size());
+  for (int row = 1; row < table.rows(); ++row) {
+    table.setCell(row, column, row <= filled ? texts[static_cast<std::size_t>(row - 1)] : std::string());
+  }
+  table.setCursor({table.fixedRows(), table.fixedColumns()});
 }
 
-void writeFlows(Table& table, const std::vector<double>& flows) {
-  table.clearData();
-  const int count = std::min(static_cast<int>(flows.size()), kMostHydrographPoints);
-  for (int i = 0; i < count; ++i) {
-    table.setCell(i + 1, kHydrographFlow, tenCharacters(flows[static_cast<std::size_t>(i)]));
-  }
+void fillFlows(Table& table, const std::vector<double>& flows) {
+  std::vector<std::string> texts;
+  const std::size_t count = std::min<std::size_t>(flows.size(), kMostHydrographPoints);
+  for (std::size_t i = 0; i < count; ++i) texts.push_back(tenCharacters(flows[i]));
+  fillColumn(table, kHydrographFlow, texts);
 }
 
 std::string tenCharacters(double value) {

@@ -23,10 +23,12 @@ HydrographPoints constantPoints(const Table& table, double dt);
 // Writes the times 0, dt, 2 dt, ... as decimal texts of 10 characters, padded or cut. A step that is not finite gives
 // none.
 void numberTimes(Table& table, double dt);
-void blankTimes(Table& table);
 
-// Blanks the discharges and writes those given from row 1 on, as texts of at most 10 characters, 5000 at most.
-void writeFlows(Table& table, const std::vector<double>& flows);
+// Writes the texts of a column from row 1 on and blanks the rows behind them. The cursor goes to the first data cell.
+void fillColumn(Table& table, int column, const std::vector<std::string>& texts);
+
+// The same with discharges, as texts of at most 10 characters, 5000 at most.
+void fillFlows(Table& table, const std::vector<double>& flows);
 
 // The first 10 characters of a number's decimal text: cut, not rounded.
 std::string tenCharacters(double value);

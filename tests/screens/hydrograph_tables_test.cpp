@@ -60,7 +60,7 @@ TEST_F(HydrographTable, writesTimesOfTenCharacters) {
 
 TEST_F(HydrographTable, writesDischargesCutAndNotRounded) {
   put(constant, 1, {"1", "2", "3", "4", "5"});
-  writeFlows(constant, {200.0 / 3, 1e-7, 1e11, 12.5});
+  fillFlows(constant, {200.0 / 3, 1e-7, 1e11, 12.5});
   EXPECT_EQ(constant.cell(1, 1), "66.6666666");
   EXPECT_EQ(constant.cell(2, 1), "0.0000001");
   EXPECT_EQ(constant.cell(3, 1), "1000000000");
