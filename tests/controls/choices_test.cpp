@@ -77,6 +77,18 @@ TEST(ComboBox, takesAnyTextWhenEditable) {
   EXPECT_EQ(combo.index(), 0);
 }
 
+TEST(ComboBox, hearsKeysWithoutChangingItsSelection) {
+  Stage stage;
+  ComboBox combo(stage.screen, "cmbCount", {"0", "1"}, 1);
+  combo.userKey({kEnter, {}});
+  int enters = 0;
+  combo.onKeyPress = [&enters](const Key& key) { enters += key.character == kEnter ? 1 : 0; };
+  combo.userKey({kEnter, {}});
+  combo.userKey({U'0', {}});
+  EXPECT_EQ(enters, 1);
+  EXPECT_EQ(combo.text(), "1");
+}
+
 TEST(ListBox, restoresTheEntriesOfItsDesign) {
   Stage stage;
   ListBox list(stage.screen, "lstAvailable", {"a"}, 0);

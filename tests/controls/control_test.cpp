@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "controls/choices.h"
 #include "controls/control_array.h"
 #include "controls/simple_controls.h"
 #include "controls/test_screen.h"
@@ -75,6 +76,18 @@ TEST(ControlArray, namesItsMembersAndRefusesAnIndexOutside) {
   EXPECT_EQ(stage.screen.find("mnuEntry"), nullptr);
   EXPECT_THROW(entries(0), RuntimeFault);
   EXPECT_THROW(entries(3), RuntimeFault);
+}
+
+TEST(ControlArray, givesEachMemberAnArgumentOfItsOwn) {
+  Stage stage;
+  std::array<OptionGroup, 2> rows;
+  ControlArray<OptionButton> in(stage.screen, "optIn", 0, rows, "In");
+  ControlArray<OptionButton> out(stage.screen, "optOut", 0, rows, "Out", true);
+  in(1).userSelect();
+  EXPECT_TRUE(out(0).selected());
+  EXPECT_FALSE(out(1).selected());
+  EXPECT_EQ(stage.screen.find("optOut(1)"), &out(1));
+  EXPECT_EQ(out.last(), 1);
 }
 
 TEST(Menu, keepsItsCheckAsPartOfTheDesign) {

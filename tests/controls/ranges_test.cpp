@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "controls/test_screen.h"
+#include "controls/text_box.h"
+#include "controls/undo_history.h"
 
 namespace kestra {
 namespace {
@@ -39,6 +41,24 @@ TEST(Tabs, changeToAPageThatIsThere) {
   EXPECT_FALSE(tabs.userSelect(2));
   EXPECT_FALSE(tabs.userSelect(-1));
   EXPECT_EQ(tabs.index(), 1);
+}
+
+TEST(Tabs, goBackWithWhatTheirHandlerChanged) {
+  Stage stage;
+  UndoHistory history;
+  Tabs tabs(stage.screen, "tabPages", {"One", "Two"});
+  TextBox box(stage.screen, "txtBox");
+  stage.host.enter(stage.screen);
+  stage.host.setHistory(&history);
+  tabs.userSelect(1);
+  EXPECT_EQ(history.steps(), 0U);  // a look alone is no step
+  tabs.onClick = [&box](int) { box.setText("shown"); };
+  tabs.userSelect(0);
+  EXPECT_TRUE(history.undo());
+  EXPECT_EQ(tabs.index(), 1);
+  EXPECT_EQ(box.text(), "");
+  EXPECT_TRUE(history.redo());
+  EXPECT_EQ(tabs.index(), 0);
 }
 
 }  // namespace

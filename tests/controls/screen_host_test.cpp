@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "controls/simple_controls.h"
+#include "controls/table.h"
 #include "controls/test_screen.h"
 #include "controls/text_box.h"
+#include "controls/undo_history.h"
 
 namespace kestra {
 namespace {
@@ -86,6 +88,34 @@ TEST(ScreenHost, findsScreensByTheirExactName) {
   stage.host.enter(stage.screen);
   EXPECT_EQ(stage.host.find("frmTest"), &stage.screen);
   EXPECT_EQ(stage.host.find("frmtest"), nullptr);
+}
+
+// A screen whose table gets its heading when it is loaded.
+struct HeadedScreen : Screen {
+  HeadedScreen() : Screen("frmHeaded", "Headed") {}
+  bool holdsInput() const override { return true; }
+  Table table{*this, "grdTable", {2, 2, 1, 1}};
+
+ protected:
+  void load() override { table.setCell(0, 1, "Elevation"); }
+};
+
+TEST(ScreenHost, keepsNothingForUndoingOfWhatAScreenIsLoadedWith) {
+  bool bExiting = false;
+  ScreenHost host(bExiting);
+  HeadedScreen screen;
+  UndoHistory history;
+  host.enter(screen);
+  host.setHistory(&history);
+  {
+    const Gesture gesture(&history, nullptr);
+    host.show(screen);
+    screen.table.setCell(1, 1, "5");
+  }
+  EXPECT_TRUE(history.undo());
+  EXPECT_EQ(screen.table.cell(1, 1), "");
+  EXPECT_EQ(screen.table.cell(0, 1), "Elevation");
+  EXPECT_EQ(host.history(), &history);
 }
 
 }  // namespace

@@ -74,5 +74,16 @@ TEST(Table, growsByEmptyRowsAndIsOfItsDesignAgainAfterIt) {
   EXPECT_EQ(table.cell(4, 1), "");
 }
 
+TEST(Table, keepsTheTextsOfARowThatIsNotShown) {
+  Stage stage;
+  Table table(stage.screen, "grdTable", {3, 3, 1, 1});
+  table.setCell(2, 1, "kept");
+  EXPECT_TRUE(table.rowShown(2));
+  table.setRowShown(2, false);
+  EXPECT_FALSE(table.rowShown(2));
+  EXPECT_EQ(table.cell(2, 1), "kept");
+  EXPECT_EQ(table.rows(), 3);
+}
+
 }  // namespace
 }  // namespace kestra
