@@ -10,8 +10,9 @@
 namespace kestra {
 namespace {
 
-// By the count. The one for three lacks its blank, which is kept.
-constexpr std::array<const char*, 4> kNextCaptions = {"&Run Simulation", "&Next Screen", "&Next Screen", "&NextScreen"};
+// By the entry of the count, "Select" first. The one for three lacks its blank, which is kept.
+constexpr std::array<const char*, 5> kNextCaptions = {"&Next Screen", "&Run Simulation", "&Next Screen", "&Next Screen",
+                                                      "&NextScreen"};
 
 bool holdsEqual(std::vector<std::string> labels) {
   std::sort(labels.begin(), labels.end());
@@ -47,7 +48,7 @@ void frmAuxSpillways::showRows() {
       control->setEnabled(i < count());
     }
   }
-  if (count() >= 0) cmdNext.setCaption(kNextCaptions[static_cast<std::size_t>(count())]);
+  cmdNext.setCaption(kNextCaptions[static_cast<std::size_t>(count() + 1)]);
 }
 
 bool frmAuxSpillways::anyIntegrity() const {

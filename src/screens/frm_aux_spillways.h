@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -38,7 +39,7 @@ class frmAuxSpillways : public InputScreen {
   static constexpr int kLabelLength = 9;  // characters: the label's field in the control file
 
   // The count that is chosen: 0 to 3; -1 while it is "Select". Setting it is the program's doing, not the user's.
-  int count() const { return cmbAuxSpillways.index() - 1; }
+  int count() const { return std::max(cmbAuxSpillways.index() - 1, -1); }
   void setCount(int count) { cmbAuxSpillways.setIndex(count + 1); }
 
   const std::string& label(int spillway) const { return txtsway(spillway).text(); }

@@ -54,6 +54,7 @@ void frmDist::load() {
 
 void frmDist::choose(MaterialProperty property) {
   host().load(*this);
+  host().load(*context_.screens.auxSpillwayProfile);
   const ApplicationState& state = context_.base.state;
   distributions_ = context_.screens.auxSpillwayProfile->shownDistributions();
   property_ = property;

@@ -53,8 +53,9 @@ struct CountCase {
 };
 
 TEST_F(AuxSpillways, showsTheRowsUpToTheCount) {
-  for (const CountCase& c : {CountCase{"3", "&NextScreen", 3}, CountCase{"1", "&Next Screen", 1},
-                             CountCase{"2", "&Next Screen", 2}, CountCase{"0", "&Run Simulation", 0}}) {
+  for (const CountCase& c :
+       {CountCase{"3", "&NextScreen", 3}, CountCase{"1", "&Next Screen", 1}, CountCase{"2", "&Next Screen", 2},
+        CountCase{"0", "&Run Simulation", 0}, CountCase{"Select", "&Next Screen", 0}}) {
     screen.cmbAuxSpillways.userSelect(c.count);
     EXPECT_EQ(screen.cmdNext.caption(), c.next);
     for (int i = 0; i < kAuxSpillways; ++i) {
@@ -85,6 +86,10 @@ TEST_F(AuxSpillways, showsTheRowsOfACountThatTheProgramHasSet) {
   desk.host.show(screen);
   EXPECT_TRUE(screen.txtsway(1).visible());
   EXPECT_FALSE(screen.txtsway(2).visible());
+  screen.setCount(4);
+  desk.host.show(screen);
+  EXPECT_EQ(screen.count(), -1);
+  EXPECT_FALSE(screen.txtsway(0).visible());
 }
 
 TEST_F(AuxSpillways, movesTheFocusByEnterInTheCount) {

@@ -226,6 +226,18 @@ TEST_F(Dist, belongsToTheFillsOwnMaterialOnItsPage) {
   EXPECT_TRUE(material(2).distribution(MaterialProperty::dryDensity).inUse);
 }
 
+TEST(DistAlone, leavesTheMaterialOfAScreenThatWasNotShownYet) {
+  AuxDesk desk;
+  desk.materials().add();
+  desk.materials().material(1).description = "Clay";
+  desk.materials().material(1).value(MaterialProperty::plasticityIndex) = "12";
+  desk.host.show(desk.dist);
+  EXPECT_EQ(desk.dist.txtOne.text(), "12");
+  desk.dist.cmdOK.click();
+  EXPECT_EQ(desk.materials().material(1).description, "Clay");
+  EXPECT_EQ(desk.materials().material(1).value(MaterialProperty::plasticityIndex), "12");
+}
+
 TEST_F(Dist, isUndoneInOneStep) {
   screen.txtDescript.userReplace("Clay");
   screen.SSTab1.userSelect(0);
