@@ -3,7 +3,7 @@ find_package(GTest REQUIRED)
 include(GoogleTest)
 
 # Every test is one of ctest's own, but under a sanitizer, where starting a process costs more than most tests do: there
-# a program is one (docs/decisions/one-test-a-process.md).
+# a program is one (docs/decisions/0013-one-test-a-process.md).
 #
 # kestra_test(folder SOURCES ... USES modules... [LIBRARIES ...])
 function(kestra_test folder)
