@@ -172,13 +172,20 @@ void appendKeys(std::vector<Key>& keys, std::string_view text) {
   while (!text.empty()) keys.push_back({popCharacter(text), {}});
 }
 
+// A key by its name; those that are characters go by their character.
+Key namedKey(const std::string& name) {
+  if (name == "Enter" || name == "Return") return {kEnter, {}};
+  if (name == "Backspace") return {kBackspace, {}};
+  return {0, name};
+}
+
 std::vector<Key> keysOf(const Json& given) {
   std::vector<Key> keys;
   for (const Json& item : given.is_array() ? given : Json::array({given})) {
     if (item.is_string()) {
       appendKeys(keys, item.get_ref<const std::string&>());
     } else if (item.is_object()) {
-      keys.push_back({0, Fields(item).text("key")});
+      keys.push_back(namedKey(Fields(item).text("key")));
     } else {
       throw RequestError("keys must be texts or {\"key\": NAME}");
     }

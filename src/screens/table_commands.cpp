@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "base/fields.h"
-#include "base/lines.h"
 
 namespace kestra {
 namespace {
@@ -31,6 +30,19 @@ Block blankSelection(const Table& table) {
   const auto rows = static_cast<std::size_t>(std::max(last.row - first.row + 1, 0));
   const auto columns = static_cast<std::size_t>(std::max(last.column - first.column + 1, 0));
   return Block(rows, std::vector<std::string>(columns));
+}
+
+// Takes a row off the front: up to CR LF, LF or CR.
+std::string_view takeRow(std::string_view& text) {
+  const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+  const std::string_view row = text.substr(0, end);
+  text.remove_prefix(end);
+  if (text.starts_with(kCrLf)) {
+    text.remove_prefix(kCrLf.size());
+  } else if (!text.empty()) {
+    text.remove_prefix(1);
+  }
+  return row;
 }
 
 std::vector<std::string> cellsOf(std::string_view line) {
@@ -124,9 +136,7 @@ void deleteBlock(Table& table) {
 
 void pasteText(Table& table, std::string_view text) {
   Block block;
-  LineReader lines(text);
-  std::string_view line;
-  while (lines.next(line)) block.push_back(cellsOf(line));
+  while (!text.empty()) block.push_back(cellsOf(takeRow(text)));
   if (block.empty()) return;
   const CellPosition cursor = table.cursor();
   writeBlock(table, cursor, block);

@@ -26,11 +26,19 @@ TableEditor::TableEditor(Table& table, TableRules rules, Ports& ports, Control& 
 }
 
 void TableEditor::key(const Key& key) {
+  intoData();
   if (!key.name.empty()) return arrow(key.name);
   if (key.character == kBackspace) return backspace();
   if (key.character == kEnter) return enter();
   if (takes(key.character)) return character(key.character);
   ports_.beeper.beep();
+}
+
+// A cursor on a heading goes to the nearest cell of the data.
+void TableEditor::intoData() {
+  const CellPosition at = table_.cursor();
+  const CellPosition data = {std::max(at.row, table_.fixedRows()), std::max(at.column, table_.fixedColumns())};
+  if (data != at) moveTo(data);
 }
 
 void TableEditor::moveTo(CellPosition at) {
@@ -48,6 +56,7 @@ bool TableEditor::takes(char32_t character) const {
 }
 
 void TableEditor::character(char32_t character) {
+  if (tempStr != table_.currentText()) tempStr.clear();  // something else than keys has changed the cell
   tempStr += utf8(character);
   table_.setCurrentText(tempStr);
   table_.userEdited();
@@ -82,7 +91,8 @@ void TableEditor::enterLast(const Place& place) {
 }
 
 void TableEditor::enterFirstValue(const Place& place) {
-  if (isEmpty(text(place))) return refuse(kMissing, false);
+  if (rules_.everyValueRequired ? isEmpty(text(place)) : text(place).empty()) return refuse(kMissing, false);
+  if (text(place) == " ") return;
   const bool falls = rules_.increasing && place.point > 1 &&
                      lenientNumber(text(place)) < lenientNumber(text({place.point - 1, place.value}));
   if (falls) return refuse(kNotIncreasing, true);
@@ -91,7 +101,7 @@ void TableEditor::enterFirstValue(const Place& place) {
 
 void TableEditor::enterLaterValue(const Place& place) {
   if (!rules_.everyValueRequired) {
-    if (text(place) != " ") advance(place);
+    if (text(place) != " " || place.value == rules_.values) advance(place);
     return;
   }
   if (!isEmpty(text(place))) return advance(place);
@@ -115,14 +125,30 @@ void TableEditor::advance(const Place& place) {
 }
 
 void TableEditor::arrow(const std::string& name) {
+  constexpr int kPage = 10;  // rows of a page
   CellPosition at = table_.cursor();
-  if (name == "Left") --at.column;
-  if (name == "Right") ++at.column;
-  if (name == "Up") --at.row;
-  if (name == "Down") ++at.row;
-  at.row = std::max(at.row, table_.fixedRows());
-  at.column = std::max(at.column, table_.fixedColumns());
-  if (table_.holds(at)) table_.userSelect(at, at);
+  if (name == "Left") {
+    --at.column;
+  } else if (name == "Right") {
+    ++at.column;
+  } else if (name == "Up") {
+    --at.row;
+  } else if (name == "Down") {
+    ++at.row;
+  } else if (name == "PageUp") {
+    at.row -= kPage;
+  } else if (name == "PageDown") {
+    at.row += kPage;
+  } else if (name == "Home") {
+    at.column = table_.fixedColumns();
+  } else if (name == "End") {
+    at.column = table_.columns() - 1;
+  } else {
+    return;
+  }
+  at.row = std::clamp(at.row, table_.fixedRows(), table_.rows() - 1);
+  at.column = std::clamp(at.column, table_.fixedColumns(), table_.columns() - 1);
+  if (at != table_.cursor()) table_.userSelect(at, at);
 }
 
 TableEditor::Place TableEditor::placeOf(CellPosition at) const {

@@ -47,6 +47,7 @@ class TableEditor {
     int value = 0;  // from 1
   };
 
+  void intoData();
   void character(char32_t character);
   void backspace();
   void enter();

@@ -88,6 +88,7 @@ TEST_F(Click, andKeysReachTheControlOneByOne) {
       {"text", "[]", kDone, ""},
       {"table", "'1\\r\\b'", kDone, "table:49 table:13 table:8"},
       {"table", "{'key':'Down'}", kDone, "table:Down"},
+      {"table", "[{'key':'Enter'},{'key':'Return'},{'key':'Backspace'}]", kDone, "table:13 table:13 table:8"},
       {"table", "['€',{'key':'Home'}]", kDone, "table:8364 table:Home"},
       {"canvas", "'\\u001b'", kDone, "canvas:27"},
       {"press", "'x'", kDone, ""},

@@ -91,6 +91,8 @@ INSTANTIATE_TEST_SUITE_P(Blocks, Paste,
                                          PasteCase{"1\t2\t3\r\n4\t5\t6\r\n7", {3, 2}, "abc def g12"},
                                          PasteCase{"1\t\r\n\t4\r\n", {1, 1}, "1-c -4f ghi"},
                                          PasteCase{"1\r\n\r\n2", {1, 1}, "1bc -ef 2hi"},
+                                         PasteCase{"1\t2\r3\t4\r", {1, 1}, "12c 34f ghi"},
+                                         PasteCase{"1\r\r2", {1, 1}, "1bc -ef 2hi"},
                                          PasteCase{"", {1, 1}, "abc def ghi"}, PasteCase{"x", {3, 3}, "abc def ghx"}));
 
 TEST_F(TableCommandsTest, pasteIsOneStepToUndo) {

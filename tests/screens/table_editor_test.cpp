@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "screens/table_commands.h"
 #include "support/input_desk.h"
 
 namespace kestra {
@@ -130,6 +131,53 @@ TEST_F(AlongColumns, movesByArrowKeysWithinTheData) {
   EXPECT_EQ(editor.tempStr, "");
 }
 
+TEST_F(AlongColumns, beginsAnewWhenSomethingElseHasChangedTheCell) {
+  typeInto(table, "12");
+  deleteBlock(table);
+  typeInto(table, "3");
+  EXPECT_EQ(table.cell(1, 1), "3");
+  pasteText(table, "99");
+  typeInto(table, "4");
+  EXPECT_EQ(table.cell(1, 1), "4");
+  EXPECT_TRUE(desk.history.undo());
+  typeInto(table, "5");
+  EXPECT_EQ(table.cell(1, 1), "5");
+  desk.host.unload(screen);
+  desk.host.show(screen);
+  typeInto(table, "6");
+  EXPECT_EQ(table.cell(1, 1), "6");
+}
+
+TEST_F(AlongColumns, neverTypesIntoAHeading) {
+  table.setCell(0, 2, "2");
+  table.setCell(1, 0, "Station");
+  table.userSelect({0, 2}, {0, 2});
+  typeInto(table, "7");
+  EXPECT_EQ(table.cell(0, 2), "2");
+  EXPECT_EQ(table.cell(1, 2), "7");
+  table.userSelect({1, 0}, {1, 0});
+  typeInto(table, "8\b\b");
+  EXPECT_EQ(table.cell(1, 0), "Station");
+  EXPECT_EQ(table.cell(1, 1), "");
+}
+
+TEST_F(AlongColumns, movesByPagesAndToTheEndsAndLeavesOtherNamedKeysAlone) {
+  typeInto(table, "1");
+  table.userKey({0, "F9"});
+  typeInto(table, "2");
+  EXPECT_EQ(table.cell(1, 1), "12");
+  table.userKey({0, "End"});
+  EXPECT_EQ(table.cursor(), (CellPosition{1, 2}));
+  table.userKey({0, "PageDown"});
+  EXPECT_EQ(table.cursor(), (CellPosition{2, 2}));
+  table.userKey({0, "Home"});
+  table.userKey({0, "PageUp"});
+  EXPECT_EQ(table.cursor(), (CellPosition{1, 1}));
+  table.userSelect({1, 1}, {2, 2});
+  table.userKey({0, "F9"});
+  EXPECT_EQ(table.corner(), (CellPosition{2, 2}));
+}
+
 TEST_F(AlongColumns, undoesATypedCellInOneStep) {
   typeInto(table, "12\r34");
   EXPECT_EQ(desk.history.steps(), 2U);
@@ -170,10 +218,16 @@ TEST_F(DownRows, letsLaterValuesBeEmptyAndGoesToTheNextRow) {
   EXPECT_EQ(desk.takeBoxes(), std::vector<std::string>{kMissing});
 }
 
-TEST_F(DownRows, staysOnACellOfOneBlank) {
-  table.setCell(1, 2, " ");
-  enterAt(1, 2);
-  EXPECT_EQ(table.cursor(), (CellPosition{1, 2}));
+TEST_F(DownRows, staysOnACellOfOneBlankButForTheLastOfARow) {
+  for (const int column : {1, 2}) {
+    table.setCell(1, column, " ");
+    enterAt(1, column);
+    EXPECT_EQ(table.cursor(), (CellPosition{1, column}));
+  }
+  table.setCell(1, 3, " ");
+  enterAt(1, 3);
+  EXPECT_EQ(table.cursor(), (CellPosition{2, 1}));
+  EXPECT_TRUE(desk.takeBoxes().empty());
 }
 
 TEST_F(DownRows, doesNotCheckTheOrderAndRefusesTheMinus) {
