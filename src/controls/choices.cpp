@@ -13,7 +13,9 @@ CheckBox::CheckBox(Screen& screen, std::string name, std::string caption, bool c
       designChecked_(checked) {}
 
 void CheckBox::setChecked(bool checked) {
-  if (UndoHistory* kept = history()) kept->keep(checked_, this, Property::value, true);
+  if (UndoHistory* kept = history(); kept != nullptr && checked != checked_) {
+    kept->keep(checked_, this, Property::value, true);
+  }
   checked_ = checked;
   changed(Property::value);
 }
@@ -57,7 +59,7 @@ void OptionButton::keepSelected() {
 }
 
 void OptionButton::setSelected(bool selected) {
-  keepSelected();
+  if (selected != selected_) keepSelected();
   selected_ = selected;
   if (selected) group_.clearOthers(*this);
   changed(Property::value);
@@ -92,13 +94,19 @@ void ChoiceList::setItems(std::vector<std::string> items) {
 }
 
 void ChoiceList::setIndex(int index) {
+  const int wanted = index >= 0 && index < static_cast<int>(items_.size()) ? index : -1;
+  if (wanted == index_ && typed_.empty()) return;
+  keepChoice();
+  index_ = wanted;
+  typed_.clear();
+  changed(Property::value);
+}
+
+void ChoiceList::keepChoice() {
   if (UndoHistory* kept = history()) {
     kept->keep(typed_, this, Property::value, true);
     kept->keep(index_, this, Property::value, true);
   }
-  index_ = index >= 0 && index < static_cast<int>(items_.size()) ? index : -1;
-  typed_.clear();
-  changed(Property::value);
 }
 
 std::string ChoiceList::text() const {

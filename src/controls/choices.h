@@ -90,6 +90,7 @@ class ChoiceList : public Control {
 
  private:
   int indexOf(std::string_view text) const;
+  void keepChoice();
 
   std::vector<std::string> items_;
   std::vector<std::string> designItems_;

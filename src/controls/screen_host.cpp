@@ -59,6 +59,7 @@ void ScreenHost::showModal(Screen& screen) {
 }
 
 void ScreenHost::hide(Screen& screen) {
+  if (focus_ != nullptr && &focus_->screen() == &screen) focus_ = nullptr;
   std::erase(shown_, &screen);
   screen.visible_ = false;
   screen.tellScreen();

@@ -12,7 +12,7 @@ TextBox::TextBox(Screen& screen, std::string name, std::string text, int maxLeng
     : Control(screen, std::move(name), ControlKind::text), text_(std::move(text)), maxLength_(maxLength) {}
 
 void TextBox::setText(std::string text) {
-  if (UndoHistory* kept = history()) kept->keep(text_, this, Property::value, true);
+  if (UndoHistory* kept = history(); kept != nullptr && text != text_) kept->keep(text_, this, Property::value, true);
   text_ = std::move(text);
   changed(Property::value);
 }

@@ -76,6 +76,8 @@ void UndoHistory::endGesture() {
   if (--depth_ > 0 || applying_) return;
   Step step = std::move(open_);
   open_ = Step();
+  // Any other gesture in between parts what is typed before it from what is typed behind it.
+  if (step.place == nullptr && !done_.empty()) done_.back().place = nullptr;
   if (step.hasData) take(std::move(step));
 }
 

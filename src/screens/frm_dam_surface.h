@@ -69,6 +69,7 @@ class frmDamSurface : public InputScreen {
  protected:
   void load() override;
   void activate() override;
+  void undone() override { activate(); }
   void goNext() override { moveTo("frmStructureTable"); }
   void goPrevious() override;
 

@@ -125,6 +125,10 @@ void frmPSConduit::showPipe() {
                                   : "Horiz. Distance, Inlet to Outlet, Feet:");
 }
 
+void frmPSConduit::undone() {
+  Initialize(context_.screens.psType->type());
+}
+
 void frmPSConduit::activate() {
   Initialize(context_.screens.psType->type());
   SSTab1.setIndex(0);

@@ -89,6 +89,7 @@ class frmPSConduit : public InputScreen {
 
  protected:
   void activate() override;
+  void undone() override;
   void unload() override;
   void goNext() override { moveTo("frmPSRatingTable"); }
   void goPrevious() override { moveTo("frmPSType"); }

@@ -83,6 +83,21 @@ TEST(ScreenHost, takesAModalScreenAwayWhenItsLoopEnds) {
   EXPECT_TRUE(stage.screen.loaded());
 }
 
+TEST(ScreenHost, takesTheFocusFromAScreenThatIsHidden) {
+  Stage stage;
+  TextBox field(stage.screen, "txtField");
+  int entered = 0;
+  field.onFocus = [&entered] { ++entered; };
+  stage.host.enter(stage.screen);
+  stage.host.show(stage.screen);
+  field.userFocus();
+  stage.host.hide(stage.screen);
+  stage.host.show(stage.screen);
+  EXPECT_EQ(stage.host.focus(), nullptr);
+  field.userFocus();
+  EXPECT_EQ(entered, 2);
+}
+
 TEST(ScreenHost, findsScreensByTheirExactName) {
   Stage stage;
   stage.host.enter(stage.screen);

@@ -229,6 +229,16 @@ TEST_F(DamSurface, standsBetweenThePropertiesOrTheProjectAndTheStructureTable) {
   EXPECT_EQ(desk.help.topics, std::vector<std::string>{"html\\DamSurfaceDescription.htm"});
 }
 
+TEST_F(DamSurface, followsAnOptionThatIsUndoneWhileItIsOnShow) {
+  project.optUser.userSelect();
+  desk.host.show(screen);
+  EXPECT_TRUE(screen.txtCoeff.visible());
+  screen.mnuUndo.click();
+  EXPECT_TRUE(project.optSimple.selected());
+  EXPECT_FALSE(screen.txtCoeff.visible());
+  EXPECT_TRUE(screen.txtUpRCI.visible());
+}
+
 TEST_F(DamSurface, losesItsInputAndKeepsItsHeadingsWhenUnloaded) {
   screen.txtUpSlope.userReplace("3");
   typeInto(screen.grdTable, "5\r");

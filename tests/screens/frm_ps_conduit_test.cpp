@@ -308,5 +308,14 @@ TEST_F(Conduit, forgetsTypeTextsAndChecksWhenUnloaded) {
   EXPECT_TRUE(desk.takeBoxes().empty());
 }
 
+TEST_F(Conduit, followsATypeThatIsUndoneWhileItIsOnShow) {
+  showType(type.optHood);
+  EXPECT_FALSE(screen.txtWeirLength.visible());
+  screen.mnuUndo.click();
+  EXPECT_TRUE(type.optSingleCir.selected());
+  EXPECT_TRUE(screen.txtWeirLength.visible());
+  EXPECT_EQ(screen.title(), "Principal Spillway: Single Stage Inlet, Circular Conduit");
+}
+
 }  // namespace
 }  // namespace kestra

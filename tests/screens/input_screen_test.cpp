@@ -104,6 +104,25 @@ TEST_F(ProjectInformation, keepsNoStepForACommandThatChangesNothing) {
   EXPECT_EQ(desk.history.steps(), 0U);
 }
 
+TEST_F(ProjectInformation, keepsNoStepForAnEditThatChangesNothing) {
+  screen.txtWatershedID.userReplace("A");
+  screen.mnuUndo.click();
+  screen.optSimple.userSelect();
+  screen.txtWatershedID.userReplace("");
+  EXPECT_EQ(desk.history.steps(), 0U);
+  screen.mnuRedo.click();
+  EXPECT_EQ(screen.txtWatershedID.text(), "A");
+}
+
+TEST_F(ProjectInformation, partsWhatIsTypedOnTwoVisits) {
+  typeInto(screen.txtWatershedID, "ab");
+  screen.cmdNext.click();
+  desk.host.show(screen);
+  typeInto(screen.txtWatershedID, "cd");
+  screen.mnuUndo.click();
+  EXPECT_EQ(screen.txtWatershedID.text(), "ab");
+}
+
 TEST(UndoHistoryLimit, dropsTheOldestStep) {
   InputDesk desk;
   frmProjectInformation screen(desk.context);
