@@ -11,4 +11,13 @@ bool& ApplicationState::window(int slot) {
   return windowOpen[static_cast<std::size_t>(slot)];
 }
 
+void ApplicationState::forgetInput() {
+  const ApplicationState design;
+  numAuxSpillways = design.numAuxSpillways;
+  curAuxSpillway = design.curAuxSpillway;
+  totalInstances = design.totalInstances;
+  lhsSeed = design.lhsSeed;
+  bRandomSample = design.bRandomSample;
+}
+
 }  // namespace kestra

@@ -41,6 +41,9 @@ struct ApplicationState {
 
   // The flag of a slot; a slot outside 1 to 6 is a fault.
   bool& window(int slot);
+
+  // Gives the values that belong to the input, of spillways and sampling, their initial ones.
+  void forgetInput();
 };
 
 }  // namespace kestra

@@ -38,6 +38,7 @@ void UnloadAllScreens(InputContext& input) {
     if (Screen* screen = context.host.find(name)) context.host.unload(*screen);
   }
   input.aux.ClearAuxData();
+  context.state.forgetInput();
   context.state.bExiting = false;
   if (UndoHistory* history = context.host.history()) history->clear();
 }
@@ -130,7 +131,6 @@ void Projects::closeWindows() {
   state.projectDir.clear();
   state.currentFile.clear();
   state.fileDirty = state.fileIsNew = state.fileHasName = false;
-  state.numAuxSpillways = state.curAuxSpillway = 0;
 }
 
 void Projects::hold(const std::string& directory) {

@@ -129,6 +129,20 @@ TEST_F(OpenProject, clearsTheInputOfTheProjectBefore) {
   EXPECT_EQ(desk.shell.history.steps(), 0U);
 }
 
+TEST_F(OpenProject, givesSpillwaysAndSamplingTheirInitialValues) {
+  open("/home/a");
+  desk.state.numAuxSpillways = desk.state.curAuxSpillway = 2;
+  desk.state.totalInstances = "50";
+  desk.state.lhsSeed = "77";
+  desk.state.bRandomSample = true;
+  open("/home/b");
+  EXPECT_EQ(desk.state.numAuxSpillways, 0);
+  EXPECT_EQ(desk.state.curAuxSpillway, 0);
+  EXPECT_EQ(desk.state.totalInstances, "1");
+  EXPECT_EQ(desk.state.lhsSeed, "1");
+  EXPECT_FALSE(desk.state.bRandomSample);
+}
+
 TEST_F(OpenProject, startsItsListsAtTheCurrentDirectoryAndFollowsTheDrive) {
   desk.memory.putDirectory("/mnt/disk/deep");
   desk.memory.setRoots({"/", "/mnt/disk"});
