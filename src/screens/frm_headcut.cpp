@@ -1,5 +1,6 @@
 #include "screens/frm_headcut.h"
 
+#include "base/text.h"
 #include "controls/control_array.h"
 #include "controls/screen_host.h"
 #include "screens/show_controls.h"
@@ -24,7 +25,18 @@ frmHeadcut::frmHeadcut(InputContext& context)
   for (OptionButton* option : {&optVANT, &optORLEN, &optLogLog, &optSemiLog}) {
     option->onClick = [this] { showChoices(); };
   }
+  cmdPlot.onClick = [this] { plot(); };
   showChoices();
+}
+
+// The graph needs all five values.
+void frmHeadcut::plot() {
+  for (const TextBox* box : {&txta1, &txtb1, &txta2, &txtb2, &txtc2}) {
+    if (!trim(box->text()).empty()) continue;
+    context_.base.ports.boxes.tell("Insufficient Input", "Enter the Required Values", BoxIcon::warning);
+    return;
+  }
+  moveTo("frmHeadcutGraph");
 }
 
 void frmHeadcut::showChoices() {

@@ -42,6 +42,7 @@ class frmHeadcut : public InputScreen {
 
  private:
   void showChoices();
+  void plot();
   bool lastSpillwayHasProfile();
 };
 

@@ -113,6 +113,22 @@ struct BackCase {
   const char* target;
 };
 
+TEST_F(Headcut, plotsOnlyWithAllFiveValues) {
+  PlainScreen graph("frmHeadcutGraph");
+  desk.host.enter(graph);
+  const std::vector<TextBox*> boxes = {&screen.txta1, &screen.txtb1, &screen.txta2, &screen.txtb2, &screen.txtc2};
+  for (TextBox* missing : boxes) {
+    for (TextBox* box : boxes) box->setText(box == missing ? " " : "1");
+    screen.cmdPlot.click();
+    EXPECT_EQ(desk.takeBoxes(), std::vector<std::string>{"Insufficient Input: Enter the Required Values"});
+    EXPECT_EQ(desk.front(), "frmHeadcut");
+  }
+  for (TextBox* box : boxes) box->setText("1");
+  screen.cmdPlot.click();
+  EXPECT_TRUE(desk.takeBoxes().empty());
+  EXPECT_EQ(desk.front(), "frmHeadcutGraph");
+}
+
 class BackFromHeadcut : public Headcut, public testing::WithParamInterface<BackCase> {};
 
 TEST_P(BackFromHeadcut, followsTheLastSpillwaysChoice) {
