@@ -166,6 +166,8 @@ class frmAuxSpillwayProfile : public InputScreen {
   void showConditions(const AuxProfile& profile);
   FillChoice fillOf(int fill) const;
   void showFill(int fill, const std::string& chosen);
+  void showFills();
+  void moveFills(int number, int by);
 
   AuxMaterials& materials() { return context_.aux.auxMaterials[static_cast<std::size_t>(spillway())]; }
   const AuxMaterials& materials() const { return context_.aux.auxMaterials[static_cast<std::size_t>(spillway())]; }

@@ -1,6 +1,7 @@
 // The material on show, the commands on materials, and the pages that show them.
 #include <algorithm>
 
+#include "base/numbers.h"
 #include "controls/screen_host.h"
 #include "screens/frm_aux_spillway_profile.h"
 #include "screens/frm_dist.h"
@@ -27,7 +28,7 @@ void cutBlankEnd(std::vector<StationElevation>& points) {
 bool isBlank(const AuxMaterial& material) {
   const auto empty = [](const std::string& value) { return value.empty(); };
   return material.description.empty() && std::all_of(material.values.begin(), material.values.end(), empty) &&
-         material.points.empty();
+         material.points.empty() && !material.byDetachment;
 }
 
 }  // namespace
@@ -137,7 +138,23 @@ void frmAuxSpillwayProfile::setMaterialCommands() {
   cmdPreMaterial.setEnabled(shown_.material > 1);
 }
 
+// A material was put in before `number`, or taken out at it: the fills in place go along with their materials.
+void frmAuxSpillwayProfile::moveFills(int number, int by) {
+  for (int fill : {kTopsoil, kGeneral}) {
+    const auto chosen = wholeNumber(materNum(fill).text());
+    if (fillOf(fill) != FillChoice::inPlace || !chosen || *chosen < number) continue;
+    const bool gone = by < 0 && *chosen == number;
+    showFill(fill, std::to_string(*chosen));  // the list has its new length
+    putEntries(materNum(fill), materNum(fill).items(), gone ? std::string() : std::to_string(*chosen + by));
+  }
+}
+
+void frmAuxSpillwayProfile::showFills() {
+  for (int fill : {kTopsoil, kGeneral}) showFill(fill, materNum(fill).text());
+}
+
 void frmAuxSpillwayProfile::addMaterial(bool insert) {
+  if (shown_.external) return;
   storeShownMaterial();
   AuxMaterials& all = materials();
   if (all.count < kMostMaterials) {
@@ -146,6 +163,9 @@ void frmAuxSpillwayProfile::addMaterial(bool insert) {
     insert ? all.insert(number) : all.add();
     showRecord({}, number, false);
     cmdDeleteMaterial.setEnabled(true);
+    if (insert) moveFills(number, 1);
+    showFills();
+    host().tellEdited(*this, txtDescript);
   }
   setMaterialCommands();
   cmdPreMaterial.setEnabled(true);
@@ -157,8 +177,13 @@ void frmAuxSpillwayProfile::deleteMaterial() {
   if (shown_.external) return;
   AuxMaterials& all = materials();
   const int number = shown_.material;
-  if (all.count > 0) keepMaterials(number);
+  if (all.count > 0) {
+    keepMaterials(number);
+    host().tellEdited(*this, txtDescript);
+  }
   all.remove(number);
+  moveFills(number, -1);
+  showFills();
   if (all.count == 0) return showFirstMaterial();
   const int next = std::min(number, all.count);
   showRecord(all.material(next), next, false);
@@ -169,6 +194,7 @@ void frmAuxSpillwayProfile::deleteMaterial() {
 }
 
 void frmAuxSpillwayProfile::stepMaterial(int by) {
+  if (shown_.external) return;
   storeShownMaterial();
   const int number = shown_.material + by;
   if (number >= 1 && number <= materials().count) showRecord(materials().material(number), number, false);
@@ -183,10 +209,10 @@ void frmAuxSpillwayProfile::changePage() {
   const int count = materials().count;
   if (page == kMaterialPage) {
     showFirstMaterial();
-    if (count > 0) cmdDeleteMaterial.setEnabled(true);
+    cmdDeleteMaterial.setEnabled(true);
     if (count == 0) txtDescript.takeFocus();
   } else if (page == kFillPage) {
-    for (int fill : {kTopsoil, kGeneral}) showFill(fill, materNum(fill).text());
+    showFills();
   } else if (page == kTopsoilPage || page == kGeneralPage) {
     const int number = count + 1 + (page - kTopsoilPage);
     showRecord(materials().material(number), number, true);

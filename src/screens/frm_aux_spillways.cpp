@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "controls/screen_host.h"
-#include "controls/undo_history.h"
 #include "screens/frm_aux_spillway_profile.h"
 
 namespace kestra {
@@ -61,9 +60,6 @@ bool frmAuxSpillways::anyIntegrity() const {
 void frmAuxSpillways::goNext() {
   if (!labelsPass()) return;
   ApplicationState& state = context_.base.state;
-  if (UndoHistory* history = host().history(); history != nullptr && state.numAuxSpillways != count()) {
-    history->keep(state.numAuxSpillways);
-  }
   state.numAuxSpillways = count();
   if (count() == 0) return runSimulation();
   context_.screens.auxSpillwayProfile->showSpillway(0);

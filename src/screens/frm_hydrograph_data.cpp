@@ -102,7 +102,6 @@ void frmHydrographData::showForm() {
   Label3.setVisible(!constant);
   txtDesired.setVisible(!constant);
   cmdConvert.setCaption(constant ? kToVariable : kToConstant);
-  files.mnuExport.setEnabled(constant);
 }
 
 void frmHydrographData::selectForm(bool constant) {
@@ -150,7 +149,7 @@ void frmHydrographData::refuse(TextBox& field, const std::string& text) {
 }
 
 void frmHydrographData::leaveIncrement() {
-  if (trim(txtConst.text()).empty()) return;
+  if (txtConst.text().empty()) return;
   const double dt = lenientNumber(txtConst.text());
   const double before = lenientNumber(lastConst_);
   if (dt <= 0) return refuse(txtConst, "Constant time increment must greater than 0.");
@@ -165,7 +164,7 @@ void frmHydrographData::leaveIncrement() {
 }
 
 void frmHydrographData::leaveDesired() {
-  if (trim(txtDesired.text()).empty() || lenientNumber(txtDesired.text()) > 0) return;
+  if (txtDesired.text().empty() || lenientNumber(txtDesired.text()) > 0) return;
   refuse(txtDesired, "Time increment must greater than 0.");
 }
 

@@ -151,6 +151,9 @@ void HydrographFiles::importTorve() {
 
 void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
   const VhyHydrograph hydrograph = readVhy(file.text, code, kVhyColumn, kMostHydrographPoints);
+  if (hydrograph.rows.empty()) {
+    return tellFault(file.trap, hydrograph.fault.empty() ? "The record holds no points." : hydrograph.fault);
+  }
   takeVariable(hydrograph.rows);
   screen_.selectForm(true);
   fillColumn(screen_.grdTable, kHydrographFlow, textsOf(hydrograph.rows, &HydrographRow::flow));
@@ -167,7 +170,7 @@ void HydrographFiles::takeThy(std::string_view text) {
   const auto hydrograph = readThy(text);
   if (!hydrograph) return;
   screen_.selectForm(true);
-  screen_.txtTitle.setText(hydrograph->title);
+  if (hydrograph->title) screen_.txtTitle.setText(*hydrograph->title);
   screen_.setIncrement(hydrograph->increment);
   fillColumn(screen_.grdTable, kHydrographFlow, hydrograph->flows);
   screen_.renumber();
@@ -192,8 +195,8 @@ void HydrographFiles::write(const std::string& path, std::string_view text) {
   if (!written) tellFault("Export File Error", written.failure().path + ": " + written.failure().reason);
 }
 
+// Only a hydrograph at constant steps has this form; the user is asked for a name all the same.
 void HydrographFiles::exportThy() {
-  if (!screen_.optConst.selected()) return;
   Ports& ports = context_.base.ports;
   auto path = chooseFile(ports, {FileDialog::Kind::save, "Save File", kThyFilter, 2, {}, false});
   if (!path) return;
@@ -204,7 +207,7 @@ void HydrographFiles::exportThy() {
                      BoxIcon::warning);
     path = joinPath(directory, "torve.THY");
   }
-  SaveTable(*path);
+  if (screen_.optConst.selected()) SaveTable(*path);
 }
 
 void HydrographFiles::exportTab() {

@@ -53,7 +53,8 @@ std::optional<ConstantHydrograph> readThy(std::string_view text) {
     if (!lines.next(line)) return std::nullopt;
   } while (trim(columns(line, 1, 10)) != "HYD");
   ConstantHydrograph hydrograph;
-  hydrograph.title = trimmed(line, kTitleColumn, kTitleWidth);
+  if (charCount(line) >= static_cast<std::size_t>(kTitleColumn))
+    hydrograph.title = trimmed(line, kTitleColumn, kTitleWidth);
   if (lines.next(line)) hydrograph.increment = trimmed(line, kFirstFlow, kFieldWidth);
   while (hydrograph.flows.size() < kMostFlows && lines.next(line) && trim(columns(line, 1, 10)) != "ENDTABLE") {
     takeFlows(line, hydrograph.flows);
@@ -64,7 +65,7 @@ std::optional<ConstantHydrograph> readThy(std::string_view text) {
 
 std::string thyText(const ConstantHydrograph& hydrograph) {
   std::string text = "HYD";
-  put(text, kTitleColumn, hydrograph.title, kTitleWidth);
+  put(text, kTitleColumn, hydrograph.title.value_or(std::string()), kTitleWidth);
   std::string line;
   put(line, kFirstFlow, hydrograph.increment, kFieldWidth);
   text.append(kCrLf).append(line).append(kCrLf);

@@ -9,9 +9,9 @@ namespace kestra {
 
 // A hydrograph at constant steps as texts.
 struct ConstantHydrograph {
-  std::string title;
-  std::string increment;           // hours
-  std::vector<std::string> flows;  // cfs
+  std::optional<std::string> title;  // nothing where the header does not reach it
+  std::string increment;             // hours
+  std::vector<std::string> flows;    // cfs
 };
 
 // A hydrograph file (.THY). Line 1: "HYD" at column 1, title of 40 characters from 31 on. Line 2: increment at 21. Then

@@ -272,11 +272,11 @@ TEST_F(Materials, areListedForAFillAsTheyAreWhenThePageIsEntered) {
   screen.cmdDeleteMaterial.click();
   screen.SSTab1.userSelect(3);
   EXPECT_EQ(screen.materNum(0).items(), std::vector<std::string>{"1"});
-  EXPECT_EQ(screen.materNum(0).text(), "");
+  EXPECT_EQ(screen.materNum(0).text(), "1");
   EXPECT_EQ(screen.materNum(1).text(), "3");
   screen.cmdHome.click();
   EXPECT_EQ(desk.stored().fill[0], FillChoice::inPlace);
-  EXPECT_EQ(desk.stored().materNum, (std::array<std::string, 2>{"", "3"}));
+  EXPECT_EQ(desk.stored().materNum, (std::array<std::string, 2>{"1", "3"}));
 }
 
 TEST_F(Materials, offerNothingForAFillWhileThereAreNone) {

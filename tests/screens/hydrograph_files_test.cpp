@@ -304,10 +304,34 @@ TEST_F(HydrographFilesOnScreen, exportUnderANameOtherThanTheOneAnnouncedWhenNone
 TEST_F(HydrographFilesOnScreen, exportNoThyFileOfVariableTime) {
   EXPECT_TRUE(menu.mnuExport.enabled());
   screen.optVariable.userSelect();
-  EXPECT_FALSE(menu.mnuExport.enabled());
+  EXPECT_TRUE(menu.mnuExport.enabled());
   choose("/p/storm.THY");
   menu.mnuExport.click();
   EXPECT_EQ(files.paths(), Texts{"/p"});
+  EXPECT_TRUE(dialogs.files.empty());
+  EXPECT_TRUE(takeBoxes().empty());
+  choose("");
+  menu.mnuExport.click();
+  EXPECT_EQ(takeBoxes(), Texts{"Save File: No filename was provided, default to /p/hydro.THY"});
+  EXPECT_EQ(files.paths(), Texts{"/p"});
+}
+
+TEST_F(HydrographFilesOnScreen, leaveTheScreenAloneWhenARecordHoldsNoPoints) {
+  screen.txtTitle.userReplace("old");
+  screen.txtConst.userReplace("1");
+  screen.grdTable.setCell(1, 1, "7");
+  import(menu.mnuImportTorve, "31\n");
+  EXPECT_EQ(takeBoxes(), Texts{"Import TORVE File Error: The record holds no points."});
+  EXPECT_EQ(screen.txtTitle.text(), "old");
+  EXPECT_EQ(screen.txtConst.text(), "1");
+  EXPECT_EQ(screen.grdTable.cell(1, 1), "7");
+}
+
+TEST_F(HydrographFilesOnScreen, keepTheTitleWhenAThyHeaderDoesNotReachIt) {
+  screen.txtTitle.userReplace("old");
+  import(menu.mnuImportTorve, "HYD\r\n" + kBlanks + "0.5\r\n" + kBlanks + "1\r\nENDTABLE\r\n");
+  EXPECT_EQ(screen.txtTitle.text(), "old");
+  EXPECT_EQ(screen.grdTable.cell(1, 1), "1");
 }
 
 TEST_F(HydrographFilesOnScreen, exportTabDelimitedTextOfTheTableOnShow) {
