@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "shell/project_guard.h"
 #include "shell/shell.h"
 
 namespace kestra {
@@ -11,10 +12,11 @@ namespace kestra {
 class Application {
  public:
   // `applicationDirectory`: where the external programs, catalogues and the help stand.
-  Application(Ports ports, const std::string& applicationDirectory);
+  Application(const Ports& given, const std::string& applicationDirectory);
 
-  Ports ports;
   ApplicationState state;
+  ProjectGuard files;  // nothing is changed in a project that another program has
+  Ports ports;
   ScreenHost host;
   ScreenContext context;
   Shell shell;

@@ -31,7 +31,8 @@ struct FieldLayout {
 // The rows behind a record, closed by ENDTABLE. They have no keyword.
 struct TableLayout {
   std::span<const FieldLayout> fields;
-  int shortestRow = 1;  // a line of fewer characters closes the table as ENDTABLE does
+  int shortestRow = 1;   // a line of fewer characters closes the table as ENDTABLE does
+  bool trimmed = false;  // cells are written without the blanks around them
 };
 
 // The words by which a line tells its layout, compared without blanks around them.

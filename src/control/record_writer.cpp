@@ -92,7 +92,10 @@ std::string composeRow(const RecordLayout& record, Values values) {
 
 void appendRow(std::string& out, const RecordLayout& record, Values values) {
   assert(record.table);
-  appendFields(out, 1, record.table->fields, values);
+  if (!record.table->trimmed) return appendFields(out, 1, record.table->fields, values);
+  std::vector<std::string_view> cells;
+  for (const std::string_view value : values) cells.push_back(trim(value));
+  appendFields(out, 1, record.table->fields, cells);
 }
 
 std::string hydrographValue(std::string_view text) {

@@ -49,13 +49,17 @@ void frmDeleteProject::forget(const std::string& path) {
   }
 }
 
-// A project that another program has open stays, and the user is told who has it.
+// A project that another program has open stays, as does one that holds such a project, and the user is told who has
+// it.
 bool frmDeleteProject::heldByAnother(const std::string& path) {
-  if (projects_.isOpen(path) && !context_.state.projectReadOnly) return false;
-  const auto lock = lockProject(context_.ports.files, path);
-  if (!lock.failedAs(FailureKind::busy)) return false;
-  warn("This project is open in " + lock.failure().reason + " and cannot be removed now.");
-  return true;
+  for (const std::string& project : projectsWithin(context_.ports.files, path)) {
+    if (projects_.isOpen(project) && !context_.state.projectReadOnly) continue;
+    const auto lock = lockProject(context_.ports.files, project);
+    if (!lock.failedAs(FailureKind::busy)) continue;
+    warn("This project is open in " + lock.failure().reason + " and cannot be removed now.");
+    return true;
+  }
+  return false;
 }
 
 }  // namespace kestra

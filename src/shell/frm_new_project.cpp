@@ -17,6 +17,8 @@ void frmNewProject::makeProject() {
   const std::string path = absolutePath(typed, files.currentDirectory());
   if (inProject(path)) return warn("QUIL project directories cannot be nested!");
   if (exists(files, path)) return warn("Project directory already exists, please try another name.");
+  // The open project may be gone, with whoever held it; a new one may then stand in its place.
+  if (!isProject(files, context_.state.projectDir)) projects_.release();
   const Status made = makeProjectDirectory(files, path);
   if (!made) return warn("Unable to make the project directory " + path + ": " + made.failure().reason);
   (void)files.changeDirectory(path);

@@ -82,6 +82,20 @@ Status removeProjectDirectory(FileSystem& files, const std::string& directory) {
   return result;
 }
 
+std::vector<std::string> projectsWithin(FileSystem& files, const std::string& directory) {
+  std::vector<std::string> found;
+  if (isProject(files, directory)) found.push_back(directory);
+  const auto entries = files.list(directory);
+  if (!entries) return found;
+  for (const DirectoryEntry& entry : entries.value()) {
+    if (entry.type != FileStatus::Type::directory) continue;
+    for (std::string& deeper : projectsWithin(files, joinPath(directory, entry.name))) {
+      found.push_back(std::move(deeper));
+    }
+  }
+  return found;
+}
+
 Result<std::unique_ptr<FileLock>> lockProject(FileSystem& files, const std::string& directory) {
   const auto flag = flagFile(files, directory);
   if (!flag) return flag.failure();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -28,6 +29,9 @@ Status makeProjectDirectory(FileSystem& files, const std::string& directory);
 // Removes the directory with all that is in it, the flag file last, so that what could not be removed whole is still a
 // project. Links are removed, never followed. Goes on behind a failure and gives the first.
 Status removeProjectDirectory(FileSystem& files, const std::string& directory);
+
+// The projects in a directory and everywhere below it, itself included; links are not followed.
+std::vector<std::string> projectsWithin(FileSystem& files, const std::string& directory);
 
 // Takes hold of a project for this program; busy when another program has it.
 Result<std::unique_ptr<FileLock>> lockProject(FileSystem& files, const std::string& directory);

@@ -12,7 +12,7 @@ import unittest
 
 from program import SANITIZED, Flow
 
-REQUESTS = int(os.environ.get("KESTRA_LONG_RUN", 10_000 if SANITIZED else 200_000))
+REQUESTS = int(os.environ.get("KESTRA_LONG_RUN", 10_000 if SANITIZED else 1_000_000))
 SETTLED = REQUESTS // 10  # by then all that is made once has been made
 MOST_GROWTH = 3 << 20  # bytes
 

@@ -135,6 +135,14 @@ TEST_F(DeleteProject, closesAnOpenProjectThatLiesDeeperInTheDeletedOne) {
   EXPECT_TRUE(desk.shell.topScreen.recent().paths().empty());
 }
 
+TEST_F(DeleteProject, isRefusedWhileAnotherProgramHasAProjectDeeperInIt) {
+  desk.memory.put("/home/dam/sub/inner/owner", "x\r\nTORVE\r\n");
+  desk.memory.holdLock("/home/dam/sub/inner/owner", "program kestra, process 7, of user ann");
+  remove("/home/dam", {BoxButton::yes});
+  expectBoxes({question, "This project is open in program kestra, process 7, of user ann and cannot be removed now."});
+  EXPECT_TRUE(desk.memory.content("/home/dam/dam.KSC"));
+}
+
 TEST_F(DeleteProject, isRefusedWhileAnotherProgramHasTheProject) {
   desk.memory.put("/home/b/owner", "x\r\nTORVE\r\n");
   desk.memory.holdLock("/home/b/owner", "program kestra, process 7, of user ann");

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/files.h"
 #include "support/scripted_desk.h"
 
 namespace kestra {
@@ -107,6 +108,25 @@ TEST_F(OpenProject, thatAnotherProgramHasIsForLookingOnly) {
   open("/home/a");
   expectBox("This project is already open.");
   EXPECT_FALSE(desk.state.projectReadOnly);
+}
+
+TEST_F(OpenProject, forLookingOnlyChangesNothingInIt) {
+  desk.memory.holdLock("/home/a/owner", "program kestra, process 7, of user ann");
+  desk.memory.put("/home/a/old.STR", "old");
+  desk.memory.putLink("/home/link", "/home/a");
+  open("/home/a");
+  desk.boxes.shown.clear();
+  FileSystem& files = desk.app.ports.files;
+  for (const char* path : {"/home/a/old.STR", "/home/link/old.STR", "old.STR", "/home/a/new"}) {
+    EXPECT_TRUE(writeWholeFile(files, path, "new").failedAs(FailureKind::denied)) << path;
+  }
+  EXPECT_TRUE(files.removeFile("/home/a/old.STR").failedAs(FailureKind::denied));
+  EXPECT_TRUE(files.makeDirectory("/home/a/deep").failedAs(FailureKind::denied));
+  EXPECT_TRUE(files.rename("/home/a/old.STR", "/home/b/x").failedAs(FailureKind::denied));
+  EXPECT_EQ(desk.memory.content("/home/a/old.STR"), "old");
+  EXPECT_TRUE(writeWholeFile(files, "/home/plain/x", "new"));
+  open("/home/b");
+  EXPECT_TRUE(writeWholeFile(files, "/home/b/x", "new"));
 }
 
 TEST_F(OpenProject, takesTheOpenProjectsRecentEntryOffOnceItsDirectoryIsGone) {
