@@ -10,7 +10,9 @@ namespace {
 Json textsOf(const FieldTexts& fields) {
   Json texts = Json::object();
   for (std::size_t i = 0; i < fields.size(); ++i) {
-    if (!fields.layout(i).literal && fields[i].reached()) texts[fields.layout(i).name] = fields[i].text();
+    const FieldLayout& layout = fields.layout(i);
+    if (!layout.literal && fields[i].reached())
+      texts[layout.name] = layout.keepsBlanks ? fields[i].raw : fields[i].text();
   }
   return texts;
 }
@@ -64,9 +66,28 @@ std::vector<std::string_view> valuesIn(const Json& list, std::span<const FieldLa
   return values;
 }
 
+// How many values a record takes before the last word that is always in it.
+std::size_t valuesBeforeLastWord(std::span<const FieldLayout> fields) {
+  std::size_t values = 0;
+  std::size_t needed = 0;
+  for (const FieldLayout& field : fields) {
+    if (!field.literal) {
+      ++values;
+    } else if (!field.literal->empty()) {
+      needed = values;
+    }
+  }
+  return needed;
+}
+
 Json composeNamed(Application&, const Arguments& arguments) {
   const RecordLayout& record = recordNamed(arguments.text(0));
-  return composeRecord(record, valuesIn(arguments.list(1), record.fields));
+  const auto values = valuesIn(arguments.list(1), record.fields);
+  const std::size_t needed = valuesBeforeLastWord(record.fields);
+  if (values.size() < needed) {
+    throw RequestError("the record takes " + std::to_string(needed) + " values at least");
+  }
+  return composeRecord(record, values);
 }
 
 Json composeNamedRow(Application&, const Arguments& arguments) {

@@ -26,6 +26,7 @@ struct FieldLayout {
   std::string_view control;                 // "frmDamSurface.txtCrestWidth"; empty for literals
   std::string_view unit;                    // empty for words and pure numbers
   std::string_view meaning;
+  bool keepsBlanks = false;  // read with the blanks around it
 };
 
 // The rows behind a record, closed by ENDTABLE. They have no keyword.

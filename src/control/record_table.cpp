@@ -17,6 +17,13 @@ constexpr FieldLayout freeField(Text name, int first, int width, Text control, T
   return {name, first, width, width, FieldKind::free, std::nullopt, control, unit, meaning};
 }
 
+// A free field that is read as it stands, with the blanks around its text.
+constexpr FieldLayout wholeField(Text name, int first, int width, Text control, Text meaning) {
+  FieldLayout field = freeField(name, first, width, control, "", meaning);
+  field.keepsBlanks = true;
+  return field;
+}
+
 constexpr FieldLayout code(Text name, int first, int width, int readWidth, Text control, Text meaning) {
   return {name, first, width, readWidth, FieldKind::code, std::nullopt, control, "", meaning};
 }
@@ -47,7 +54,7 @@ constexpr FieldLayout discharge(Text name, int first) {
 
 constexpr FieldLayout kProject[] = {
     literal("format date", 11, 10, "01/01/2009", "mark of the format, never the date of the run"),
-    freeField("project", 21, 50, "frmProjectInformation.txtWatershedID", "", "project identifier")};
+    wholeField("project", 21, 50, "frmProjectInformation.txtWatershedID", "project identifier, read with its blanks")};
 
 constexpr auto kModel = ten("model", 11, "frmProjectInformation.optUser, .optSimple", "",
                             "surface model: COEFF, SIMPLE or DETAILED; DETAILED is read as SIMPLE");
@@ -69,8 +76,8 @@ constexpr FieldLayout kOptionDrawdown[] = {
     freeField("drawdown time", 71, 10, "frmHydrographData.txtDrawdownTime", "h",
               "time allowed; 240 where the line ends before it")};
 
-constexpr FieldLayout kComment[] = {
-    freeField("comment", 11, 60, "frmProjectInformation.txtComments", "", "one line of the wrapped comment")};
+constexpr FieldLayout kComment[] = {wholeField("comment", 11, 60, "frmProjectInformation.txtComments",
+                                               "one line of the wrapped comment, read with its blanks")};
 
 constexpr FieldLayout kHeadcutModel1[] = {
     literal("model", 11, 10, "1", "number of the headcut erodibility model"),

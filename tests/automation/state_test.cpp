@@ -177,5 +177,24 @@ TEST_F(State, namesEveryOperationThatCanBeCalledOnce) {
   EXPECT_FALSE(named.contains("gallery.idle_Click"));
 }
 
+TEST_F(State, composesNoRecordWithoutTheWordThatMakesIt) {
+  expect({
+      {"{'do':'call','name':'ComposeRecord','args':['OPTION NOBREACH',['SIMPLE','EARTH']]}",
+       "{'ok':false,'error':'the record takes 3 values at least'}"},
+      {"{'do':'call','name':'ComposeRecord','args':['OPTION NOBREACH',['SIMPLE','EARTH','']]}",
+       "{'ok':true,'value':'OPTION    SIMPLE    EARTH               NOBREACH'}"},
+      {"{'do':'call','name':'ComposeRow','args':['STRUCTURE',[' 1 ',' 2','3 ','4']]}",
+       "{'ok':true,'value':'                    1         2         3         4         '}"},
+  });
+}
+
+TEST_F(State, readsTheIdentifierAndCommentsWithTheirBlanks) {
+  desk.memory.put("/home/a.KSC", "KESTRA    01/01/2009  lead\r\n*           indented\r\n");
+  EXPECT_EQ(
+      desk.tell("{'do':'call','name':'ReadRecords','args':['/home/a.KSC']}"),
+      "{'ok':true,'value':[{'run':'main','ended':false,'records':[{'line':1,'record':'KESTRA','fields':{'project':"
+      "'  lead'}},{'line':2,'record':'COMMENT','fields':{'comment':'  indented'}}],'unknown':[]}]}");
+}
+
 }  // namespace
 }  // namespace kestra
