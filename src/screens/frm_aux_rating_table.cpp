@@ -94,6 +94,7 @@ void frmAuxRatingTable::toProfile() {
 void frmAuxRatingTable::undone() {
   const bool rated = context_.screens.auxSpillways->optRating(context_.base.state.curAuxSpillway).selected();
   if (rated || !visible()) return showCurrent();
+  context_.screens.auxSpillwayProfile->followUndo();
   moveTo("frmAuxSpillwayProfile");
 }
 

@@ -1,5 +1,6 @@
 #include "screens/frm_aux_spillway_profile.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/numbers.h"
@@ -55,10 +56,17 @@ void frmAuxSpillwayProfile::prepareTables() {
     return grdCond.cursor().row == kRetardance && !retardanceIndex(character).empty();
   };
   condEditor_.onEnter = [this] { return condEnter(); };
+  grdCond.onCursorMoved = [this] {
+    condEditor_.tempStr.clear();
+    clipSelection();
+  };
   for (Menu* menu : {&edit.mnuCopy, &edit.mnuCut, &edit.mnuPaste, &edit.mnuDelete, &edit.mnuSelectAll,
                      &edit.mnuInsertCell, &edit.mnuDeleteCell, &edit.mnuInsertPoint, &edit.mnuDeletePoint}) {
-    menu->onClick = [this, act = menu->onClick] {
-      if (editedTable() != nullptr) act();
+    const bool wholeTable = menu == &edit.mnuSelectAll || menu == &edit.mnuInsertPoint || menu == &edit.mnuDeletePoint;
+    menu->onClick = [this, wholeTable, act = menu->onClick] {
+      const Table* const table = editedTable();
+      if (table == &grdCond) return editConditions(act, wholeTable);
+      if (table != nullptr) act();
     };
   }
 }
@@ -118,9 +126,17 @@ void frmAuxSpillwayProfile::activate() {
 void frmAuxSpillwayProfile::undone() {
   const frmAuxSpillways& spillways = *context_.screens.auxSpillways;
   const int current = context_.base.state.curAuxSpillway;
-  activate();
+  followUndo();
   if (!visible()) return;
   if (spillways.optRating(current).selected() && !spillways.analysed(current)) moveTo("frmAuxRatingTable");
+}
+
+void frmAuxSpillwayProfile::followUndo() {
+  if (!loaded()) return;
+  UndoHistory* const history = host().history();
+  host().setHistory(nullptr);
+  activate();
+  host().setHistory(history);
 }
 
 // Whether the controls hold the spillway being edited, in the form that its analysis asks for.
@@ -143,16 +159,21 @@ void frmAuxSpillwayProfile::setFields() {
   showControls(integrity(), {&CrestBarrierFrame, &BarrierFrame});
   if (integrity()) lblTopsoil.setCaption("Topsoil Fill Depth, Feet:");
   if (stability()) lblTopsoil.setCaption("Diameter of Surface Material, In.:");
-  for (int row = 0; row < grdCond.rows(); ++row) grdCond.setRowShown(row, row != kRootDepth || shown_.rootDepth);
+  showMaterialCommands();
+  for (int row = 0; row < grdCond.rows(); ++row) grdCond.setRowShown(row, row <= lastCondition());
+  if (grdCond.cursor().row > lastCondition()) grdCond.setCursor({lastCondition(), grdCond.cursor().column});
+}
+
+int frmAuxSpillwayProfile::lastCondition() const {
+  return shown_.rootDepth ? kRootDepth : kRootDepth - 1;
 }
 
 void frmAuxSpillwayProfile::showConditions(const AuxProfile& profile) {
   for (int row = 0; row < grdCond.rows(); ++row) {
-    const bool shown = row != kRootDepth || shown_.rootDepth;
     const auto value = static_cast<std::size_t>(row);
-    grdCond.setCell(row, 0, shown ? kConditions[value] : "");
+    grdCond.setCell(row, 0, row <= lastCondition() ? kConditions[value] : "");
     for (std::size_t reach = 0; reach < kShownReaches; ++reach) {
-      grdCond.setCell(row, static_cast<int>(reach) + 1, shown ? profile.reaches[reach][value] : "");
+      grdCond.setCell(row, static_cast<int>(reach) + 1, profile.reaches[reach][value]);
     }
   }
 }
@@ -160,6 +181,25 @@ void frmAuxSpillwayProfile::showConditions(const AuxProfile& profile) {
 Table* frmAuxSpillwayProfile::editedTable() {
   if (SSTab1.index() == 0) return lastTable_;
   return SSTab1.index() == 2 ? &grdTable : nullptr;
+}
+
+// A selection that reaches into the row that is not shown ends before it.
+void frmAuxSpillwayProfile::clipSelection() {
+  if (grdCond.firstSelected().row > lastCondition() || grdCond.lastSelected().row <= lastCondition()) return;
+  const auto shown = [this](CellPosition at) { return CellPosition{std::min(at.row, lastCondition()), at.column}; };
+  grdCond.setSelection(shown(grdCond.cursor()), shown(grdCond.corner()));
+}
+
+// A command of the Edit menu on the surface conditions. Root depths that are not shown are neither read nor written;
+// they only go along with their reaches.
+void frmAuxSpillwayProfile::editConditions(const std::function<void()>& command, bool wholeTable) {
+  if (shown_.rootDepth || wholeTable) return command();
+  if (grdCond.firstSelected().row > lastCondition()) return;
+  clipSelection();
+  std::array<std::string, kShownReaches> depths;
+  for (std::size_t i = 0; i < depths.size(); ++i) depths[i] = grdCond.cell(kRootDepth, static_cast<int>(i) + 1);
+  command();
+  for (std::size_t i = 0; i < depths.size(); ++i) grdCond.setCell(kRootDepth, static_cast<int>(i) + 1, depths[i]);
 }
 
 void frmAuxSpillwayProfile::checkNotNegative(TextBox& box, const char* message) {
@@ -172,15 +212,17 @@ void frmAuxSpillwayProfile::checkNotNegative(TextBox& box, const char* message) 
 // Keys of the surface conditions: none in a row that is not shown, and two characters at most for the retardance.
 void frmAuxSpillwayProfile::condKey(const Key& key) {
   const int row = grdCond.cursor().row;
-  const int lastRow = shown_.rootDepth ? kRootDepth : kRootDepth - 1;
-  if (key.name == "Down" && row >= lastRow) return;
+  const int lastRow = lastCondition();
+  if ((key.name == "Down" || key.name == "PageDown") && row >= lastRow) return;
   const bool types = key.name.empty() && key.character != kBackspace && key.character != kEnter;
   const bool full = row == kRetardance && condEditor_.tempStr.size() >= 2;
   if (row > lastRow ? key.name.empty() : types && full) return context_.base.ports.beeper.beep();
   condEditor_.key(key);
+  if (row <= lastRow && grdCond.cursor().row > lastRow) grdCond.setCursor({lastRow, grdCond.cursor().column});
 }
 
-// Puts the curve index in a retardance class's place; then goes on, to the next reach behind the last row shown.
+// Puts the curve index in a retardance class's place; then goes on, behind the last row shown to the next reach, and
+// behind the last reach to Next.
 bool frmAuxSpillwayProfile::condEnter() {
   const CellPosition at = grdCond.cursor();
   std::string_view text = grdCond.currentText();
@@ -191,8 +233,13 @@ bool frmAuxSpillwayProfile::condEnter() {
       grdCond.userEdited();
     }
   }
-  if (shown_.rootDepth || at.row != kRootDepth - 1) return false;
-  condEditor_.moveTo({0, at.column + 1});
+  if (at.row != lastCondition()) return false;
+  if (at.column < grdCond.columns() - 1) {
+    condEditor_.moveTo({0, at.column + 1});
+  } else {
+    condEditor_.tempStr.clear();
+    cmdNext.takeFocus();
+  }
   return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "controls/choices.h"
@@ -121,6 +122,9 @@ class frmAuxSpillwayProfile : public InputScreen {
   void storeShown();
   // Shows what the stores hold, for who has just filled them; what was shown before is forgotten.
   void refill();
+  // Shows what follows from values that were undone or redone, which is no step of its own. Without effect while the
+  // screen is not loaded.
+  void followUndo();
 
   // The material on show as the distribution dialog needs it. `takeDistributions` puts the chosen ones into the boxes
   // and, with the boxes, into the material's record.
@@ -143,7 +147,7 @@ class frmAuxSpillwayProfile : public InputScreen {
     int spillway = -1;
     int material = 1;
     bool external = false;  // a fill's own material
-    bool rootDepth = true;  // grdCond has its last row
+    bool rootDepth = true;  // grdCond shows its last row
     bool operator==(const Shown&) const = default;
   };
 
@@ -157,6 +161,9 @@ class frmAuxSpillwayProfile : public InputScreen {
   bool integrity() const;
   bool stability() const;
   Table* editedTable();  // that the Edit menu acts on; null on a page without one
+  void editConditions(const std::function<void()>& command, bool wholeTable);
+  void clipSelection();
+  int lastCondition() const;  // the last row of grdCond that is shown
   void checkNotNegative(TextBox& box, const char* message);
   void condKey(const Key& key);
   bool condEnter();
@@ -173,8 +180,10 @@ class frmAuxSpillwayProfile : public InputScreen {
   const AuxMaterials& materials() const { return context_.aux.auxMaterials[static_cast<std::size_t>(spillway())]; }
   int spillway() const { return shown_.spillway >= 0 ? shown_.spillway : context_.base.state.curAuxSpillway; }
   AuxMaterial enteredMaterial(const AuxMaterial& stored) const;
-  void showRecord(const AuxMaterial& material, int number, bool external);
-  void showFirstMaterial();
+  bool onFillPage() const;  // a page of a fill's own material
+  void showRecord(const AuxMaterial& material, int number);
+  void showFirstRecord();  // that the page begins with: the first material, or the fill's own
+  void showMaterialCommands();
   void storeShownMaterial();
   void keepMaterials(int number);
   void setMaterialCommands();

@@ -6,6 +6,7 @@
 #include "screens/frm_aux_spillway_profile.h"
 #include "screens/frm_dist.h"
 #include "screens/put_value.h"
+#include "screens/show_controls.h"
 
 namespace kestra {
 namespace {
@@ -44,6 +45,7 @@ void frmAuxSpillwayProfile::prepareMaterials() {
     ranges_[i]->onClick = [this, i] {
       context_.screens.dist->choose(static_cast<MaterialProperty>(i));
       host().showModal(*context_.screens.dist);
+      ranges_[i]->takeFocus();
     };
   }
 }
@@ -54,6 +56,7 @@ void frmAuxSpillwayProfile::storeMaterial(int n) {
   if (first) {
     keepMaterials(1);
     materials().add();
+    showFills();
   }
   AuxMaterial& stored = materials().material(n);
   AuxMaterial entered = enteredMaterial(stored);
@@ -68,21 +71,26 @@ void frmAuxSpillwayProfile::storeShownMaterial() {
 }
 
 void frmAuxSpillwayProfile::showMaterial(int n) {
-  const bool fillPage = SSTab1.index() == kTopsoilPage || SSTab1.index() == kGeneralPage;
-  if (n == 1 && materials().count == 0 && !fillPage) return clearMaterial();
-  showRecord(materials().material(n), n, n > materials().count);
+  showRecord(materials().material(n), n);
 }
 
 void frmAuxSpillwayProfile::clearMaterial() {
-  showRecord({}, 1, false);
+  showRecord({}, 1);
 }
 
-void frmAuxSpillwayProfile::showFirstMaterial() {
-  materials().count > 0 ? showRecord(materials().material(1), 1, false) : clearMaterial();
+bool frmAuxSpillwayProfile::onFillPage() const {
+  return SSTab1.index() == kTopsoilPage || SSTab1.index() == kGeneralPage;
+}
+
+void frmAuxSpillwayProfile::showFirstRecord() {
+  const AuxMaterials& all = materials();
+  const int number = onFillPage() ? all.count + 1 + (SSTab1.index() - kTopsoilPage) : 1;
+  onFillPage() || all.count > 0 ? showRecord(all.material(number), number) : clearMaterial();
   setMaterialCommands();
+  cmdDeleteMaterial.setEnabled(true);
 }
 
-void frmAuxSpillwayProfile::showRecord(const AuxMaterial& material, int number, bool external) {
+void frmAuxSpillwayProfile::showRecord(const AuxMaterial& material, int number) {
   putValue(txtDescript, material.description);
   for (std::size_t i = 0; i < boxes_.size(); ++i) {
     putValue(*boxes_[i], material.distributions[i].inUse ? kDrawn : material.values[i]);
@@ -97,7 +105,7 @@ void frmAuxSpillwayProfile::showRecord(const AuxMaterial& material, int number, 
   }
   Shown shown = shown_;
   shown.material = number;
-  shown.external = external;
+  shown.external = onFillPage();
   setShown(shown);
 }
 
@@ -138,14 +146,19 @@ void frmAuxSpillwayProfile::setMaterialCommands() {
   cmdPreMaterial.setEnabled(shown_.material > 1);
 }
 
+// Boundaries and commands belong to the materials, not to those of the fills.
+void frmAuxSpillwayProfile::showMaterialCommands() {
+  showControls(!onFillPage(),
+               {&grdTable, &cmdAddMaterial, &cmdInsertMaterial, &cmdDeleteMaterial, &cmdNextMaterial, &cmdPreMaterial});
+}
+
 // A material was put in before `number`, or taken out at it: the fills in place go along with their materials.
 void frmAuxSpillwayProfile::moveFills(int number, int by) {
   for (int fill : {kTopsoil, kGeneral}) {
     const auto chosen = wholeNumber(materNum(fill).text());
     if (fillOf(fill) != FillChoice::inPlace || !chosen || *chosen < number) continue;
     const bool gone = by < 0 && *chosen == number;
-    showFill(fill, std::to_string(*chosen));  // the list has its new length
-    putEntries(materNum(fill), materNum(fill).items(), gone ? std::string() : std::to_string(*chosen + by));
+    showFill(fill, gone ? std::string() : std::to_string(*chosen + by));
   }
 }
 
@@ -161,7 +174,7 @@ void frmAuxSpillwayProfile::addMaterial(bool insert) {
     const int number = insert ? std::min(shown_.material, all.count + 1) : all.count + 1;
     keepMaterials(number);
     insert ? all.insert(number) : all.add();
-    showRecord({}, number, false);
+    showRecord({}, number);
     cmdDeleteMaterial.setEnabled(true);
     if (insert) moveFills(number, 1);
     showFills();
@@ -177,16 +190,16 @@ void frmAuxSpillwayProfile::deleteMaterial() {
   if (shown_.external) return;
   AuxMaterials& all = materials();
   const int number = shown_.material;
-  if (all.count > 0) {
+  if (number <= all.count) {
     keepMaterials(number);
     host().tellEdited(*this, txtDescript);
   }
   all.remove(number);
   moveFills(number, -1);
   showFills();
-  if (all.count == 0) return showFirstMaterial();
+  if (all.count == 0) return showFirstRecord();
   const int next = std::min(number, all.count);
-  showRecord(all.material(next), next, false);
+  showRecord(all.material(next), next);
   setMaterialCommands();
   if (all.count > 1) return;
   cmdPreMaterial.setEnabled(false);
@@ -197,7 +210,7 @@ void frmAuxSpillwayProfile::stepMaterial(int by) {
   if (shown_.external) return;
   storeShownMaterial();
   const int number = shown_.material + by;
-  if (number >= 1 && number <= materials().count) showRecord(materials().material(number), number, false);
+  if (number >= 1 && number <= materials().count) showRecord(materials().material(number), number);
   setMaterialCommands();
 }
 
@@ -205,18 +218,11 @@ void frmAuxSpillwayProfile::stepMaterial(int by) {
 void frmAuxSpillwayProfile::changePage() {
   if (shown_.spillway < 0) return;
   storeShown();
+  showMaterialCommands();
   const int page = SSTab1.index();
-  const int count = materials().count;
-  if (page == kMaterialPage) {
-    showFirstMaterial();
-    cmdDeleteMaterial.setEnabled(true);
-    if (count == 0) txtDescript.takeFocus();
-  } else if (page == kFillPage) {
-    showFills();
-  } else if (page == kTopsoilPage || page == kGeneralPage) {
-    const int number = count + 1 + (page - kTopsoilPage);
-    showRecord(materials().material(number), number, true);
-  }
+  if (page == kMaterialPage || onFillPage() || shown_.external) showFirstRecord();
+  if (page == kMaterialPage && materials().count == 0) txtDescript.takeFocus();
+  if (page == kFillPage) showFills();
 }
 
 frmAuxSpillwayProfile::Distributions frmAuxSpillwayProfile::shownDistributions() const {

@@ -32,7 +32,7 @@ void frmAuxSpillwayProfile::setTableValues() {
   setShown(shown);
   setFields();
   showProfile(context_.aux.auxProfile[static_cast<std::size_t>(current)]);
-  if (another) showFirstMaterial();
+  if (another) showFirstRecord();
 }
 
 void frmAuxSpillwayProfile::showProfile(const AuxProfile& profile) {
@@ -63,9 +63,8 @@ AuxProfile frmAuxSpillwayProfile::enteredProfile() const {
       profile.points[point][value] = grdProfile.cell(static_cast<int>(value) + 1, static_cast<int>(point) + 1);
     }
   }
-  const std::size_t values = shown_.rootDepth ? 6 : 5;
   for (std::size_t reach = 0; reach < kShownReaches; ++reach) {
-    for (std::size_t value = 0; value < values; ++value) {
+    for (std::size_t value = 0; value < profile.reaches[reach].size(); ++value) {
       profile.reaches[reach][value] = grdCond.cell(static_cast<int>(value), static_cast<int>(reach) + 1);
     }
   }
@@ -107,7 +106,7 @@ void frmAuxSpillwayProfile::storeShown() {
 void frmAuxSpillwayProfile::refill() {
   if (!loaded()) return;
   setTableValues();
-  showFirstMaterial();
+  showFirstRecord();
 }
 
 void frmAuxSpillwayProfile::showSpillway(int spillway) {
@@ -116,9 +115,9 @@ void frmAuxSpillwayProfile::showSpillway(int spillway) {
   if (current != spillway) keep(current, false);
   current = spillway;
   if (!loaded()) return;
+  SSTab1.setIndex(0);
   refill();
   setColNum();
-  SSTab1.setIndex(0);
 }
 
 void frmAuxSpillwayProfile::setShown(const Shown& shown) {

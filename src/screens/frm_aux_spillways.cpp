@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "controls/screen_host.h"
 #include "screens/frm_aux_spillway_profile.h"
 
 namespace kestra {
@@ -45,6 +44,9 @@ void frmAuxSpillways::showRows() {
     for (Control* control : row) {
       control->setVisible(i < count());
       control->setEnabled(i < count());
+    }
+    for (auto* options : {&optProfile, &optRating, &optQUIL, &optStability, &optNone}) {
+      (*options)(i).setEnabled(i < count());
     }
   }
   cmdNext.setCaption(kNextCaptions[static_cast<std::size_t>(count() + 1)]);

@@ -65,6 +65,10 @@ TEST_F(AuxSpillways, showsTheRowsUpToTheCount) {
       EXPECT_EQ(screen.optRating(i).visible(), used);
       EXPECT_EQ(screen.optStability(i).visible(), used);
       EXPECT_EQ(screen.frameInputType(i).enabled() && screen.frameAnalysisType(i).enabled(), used);
+      for (const auto* options :
+           {&screen.optProfile, &screen.optRating, &screen.optQUIL, &screen.optStability, &screen.optNone}) {
+        EXPECT_EQ((*options)(i).enabled(), used) << (*options)(i).name();
+      }
     }
   }
 }

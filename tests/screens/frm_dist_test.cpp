@@ -211,6 +211,31 @@ TEST_F(Dist, staysWhileSomethingIsWrong) {
   EXPECT_EQ(screen.txtPlastic.text(), "");
 }
 
+TEST_F(Dist, keepsThePropertyOnShowWhileItIsWrong) {
+  open(screen.cmdDry, [this] {
+    enter("Normal", {"10", "0"});
+    dialog.cmdOK.click();
+    EXPECT_EQ(desk.takeBoxes(),
+              std::vector<std::string>{"Data Check: Please enter Positive value for Standard Deviation"});
+    EXPECT_TRUE(dialog.visible());
+    EXPECT_EQ(dialog.Combo1.text(), "Dry Density");
+    EXPECT_EQ(dialog.cmbDist.text() + " " + dialog.txtOne.text() + " " + dialog.txtTwo.text(), "Normal 10 0");
+  });
+}
+
+TEST_F(Dist, givesTheFocusBackToTheRangeButton) {
+  for (Button* range : {&screen.cmdPlastic, &screen.cmdDry, &screen.cmdHeadCut, &screen.cmdPercent, &screen.cmdDetach,
+                        &screen.cmdRep}) {
+    range->userFocus();
+    open(*range, [this] {
+      dialog.txtSeed.userFocus();
+      EXPECT_EQ(desk.host.focus(), &dialog.txtSeed);
+      dialog.cmdCancel.click();
+    });
+    EXPECT_EQ(desk.host.focus(), range);
+  }
+}
+
 TEST_F(Dist, wantsAConstantToHaveAValue) {
   open(screen.cmdPlastic, [this] { dialog.cmdOK.click(); });
   EXPECT_EQ(desk.takeBoxes(), std::vector<std::string>{"Data Check: Please Enter value for Constant Value"});
