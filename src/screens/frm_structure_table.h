@@ -39,6 +39,11 @@ class frmStructureTable : public InputScreen {
   void mnuExport_Click();
   void saveStructureTable(const std::string& fileName);
 
+  void clearTable();    // blanks all cells but the headings; the cursor goes to the first of them
+  void setRowNum();     // point numbers before the rows
+  void setColWidth();   // 1750 twips and centred, 500 for the numbers
+  void setRowHeight();  // 560 twips for the headings
+
  protected:
   void load() override;
   void activate() override;
@@ -46,8 +51,6 @@ class frmStructureTable : public InputScreen {
   void goPrevious() override { moveTo("frmDamSurface"); }
 
  private:
-  void setColWidth();
-  void setRowHeight();
   std::vector<StructureRow> rows() const;                 // all data rows
   void takeRows(const std::vector<StructureRow>& taken);  // blanks the table and fills it from row 1 on
 
