@@ -153,7 +153,7 @@ TEST_F(HydrographData, putsACursorOnTheHeadingsIntoTheData) {
 }
 
 TEST_F(HydrographData, refusesAnIncrementThatIsNotAboveZero) {
-  for (const char* text : {"0", "-1", "abc", "0.0"}) {
+  for (const char* text : {"0", "-1", "abc", "0.0", " "}) {
     setIncrement(text);
     EXPECT_EQ(takeBoxes(), Texts{kConstantStep}) << text;
     EXPECT_EQ(screen.txtConst.text(), "");
@@ -178,6 +178,58 @@ TEST_F(HydrographData, cutsATitleOfMoreThanFortyCharacters) {
   screen.txtTitle.userLeave();
   EXPECT_EQ(takeBoxes(), Texts{"Data Check: Title cannot exceed 40 characters."});
   EXPECT_EQ(screen.txtTitle.text(), forty);
+}
+
+TEST_F(HydrographData, checksATitleOnlyAfterTheUserHasChangedIt) {
+  const std::string long41(41, 'x');
+  screen.txtTitle.setText(long41);
+  screen.txtTitle.userLeave();
+  EXPECT_TRUE(takeBoxes().empty());
+  EXPECT_EQ(screen.txtTitle.text(), long41);
+  screen.txtTitle.userKey({U'y', ""});
+  EXPECT_TRUE(screen.bTitleChanged);
+  screen.txtTitle.userLeave();
+  EXPECT_EQ(takeBoxes(), Texts{"Data Check: Title cannot exceed 40 characters."});
+  EXPECT_FALSE(screen.bTitleChanged);
+}
+
+TEST_F(HydrographData, remembersTheLastIncrementThatItAccepted) {
+  setIncrement("0.5");
+  EXPECT_EQ(screen.lastConst, "0.5");
+  screen.txtConst.userReplace("-1");
+  EXPECT_TRUE(screen.bConstChanged);
+  screen.txtConst.userLeave();
+  EXPECT_FALSE(screen.bConstChanged);
+  EXPECT_EQ(takeBoxes(), Texts{kConstantStep});
+  EXPECT_EQ(screen.lastConst, "0.5");
+}
+
+TEST_F(HydrographData, leavesItsPointsAloneWhenAProgramSetsTheIncrement) {
+  setIncrement("1");
+  put(screen.grdTable, 1, {"0", "10"});
+  screen.txtConst.setText("0.5");
+  screen.txtConst.userLeave();
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+}
+
+TEST_F(HydrographData, clearsTheTableOnShowInOneStepThatCanBeUndone) {
+  put(screen.grdTable, 1, {"1", "2"});
+  put(screen.varTable, 0, {"3", "4"});
+  screen.setRowNum(1);
+  screen.grdTable.userSelect({2, 1}, {4, 1});
+  screen.clearTable();
+  EXPECT_EQ(column(screen.grdTable, 1, 2), (Texts{"", ""}));
+  EXPECT_EQ(screen.grdTable.cell(2, 0), "1         ");
+  EXPECT_EQ(screen.grdTable.cursor(), (CellPosition{1, 1}));
+  EXPECT_EQ(screen.grdTable.corner(), (CellPosition{1, 1}));
+  EXPECT_EQ(column(screen.varTable, 0, 2), (Texts{"3", "4"}));
+  EXPECT_TRUE(state.fileDirty);
+  screen.mnuUndo.click();
+  EXPECT_EQ(column(screen.grdTable, 1, 2), (Texts{"1", "2"}));
+  screen.selectForm(false);
+  screen.clearTable();
+  EXPECT_EQ(column(screen.varTable, 0, 2), (Texts{"", ""}));
+  EXPECT_EQ(screen.varTable.cell(0, 0), " Time, hrs");
 }
 
 TEST_F(HydrographData, makesNoStepByBeingShown) {
