@@ -92,12 +92,24 @@ void frmHydrographData::activate() {
     setRowNum(dt);
     setLastConst(txtConst.text());
   }
-  const frmProjectInformation* project = context_.screens.projectInformation;
-  const bool breach = project == nullptr || project->optBreachAnalysis.selected();
-  if (breach && chk10daydrawdown.checked()) chk10daydrawdown.setChecked(false);
-  Frame3.setVisible(!breach);
+  Frame3.setVisible(!breach());
+  if (breach() && chk10daydrawdown.checked()) chk10daydrawdown.setChecked(false);
   showDrawdown();
   txtTitle.takeFocus();
+}
+
+bool frmHydrographData::breach() const {
+  const frmProjectInformation* project = context_.screens.projectInformation;
+  return project == nullptr || project->optBreachAnalysis.selected();
+}
+
+// Texts have changed too, so that leaving their fields checks them.
+void frmHydrographData::undone() {
+  showForm();
+  Frame3.setVisible(!breach());
+  showDrawdown();
+  bConstChanged = txtConst.text() != lastConst;
+  bTitleChanged = true;
 }
 
 void frmHydrographData::goNext() {

@@ -82,10 +82,12 @@ class frmHydrographData : public InputScreen {
   void unload() override;
   void goNext() override;
   void goPrevious() override { moveTo("frmStructureTable"); }
+  void undone() override;
 
  private:
   Table& tableOnShow() { return optConst.selected() ? grdTable : varTable; }
-  void showForm();  // what belongs to the selected option
+  bool breach() const;  // whether the dam may breach
+  void showForm();      // what belongs to the selected option
   void showDrawdown();
   void convert();
   void convertToVariable(double dt);

@@ -66,10 +66,13 @@ void frmStructureTable::clearTable() {
 }
 
 void frmStructureTable::activate() {
+  showStart();
+  if (!optCFS.visible() && !optFEET.selected()) optFEET.setSelected(true);
+}
+
+void frmStructureTable::showStart() {
   const frmProjectInformation* project = context_.screens.projectInformation;
-  const bool byDischarge = project != nullptr && project->optNoBreachAnalysis.selected();
-  optCFS.setVisible(byDischarge);
-  if (!byDischarge && !optFEET.selected()) optFEET.setSelected(true);
+  optCFS.setVisible(project != nullptr && project->optNoBreachAnalysis.selected());
 }
 
 void frmStructureTable::mnuImportTorve_Click() {

@@ -49,8 +49,10 @@ class frmStructureTable : public InputScreen {
   void activate() override;
   void goNext() override { moveTo("frmHydrographData"); }
   void goPrevious() override { moveTo("frmDamSurface"); }
+  void undone() override { showStart(); }
 
  private:
+  void showStart();                                       // the options that the analysis leaves
   std::vector<StructureRow> rows() const;                 // all data rows
   void takeRows(const std::vector<StructureRow>& taken);  // blanks the table and fills it from row 1 on
 

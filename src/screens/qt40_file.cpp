@@ -44,6 +44,13 @@ void takeRow(const LineReader& lines, std::string_view line, double baseFlow, st
   }
 }
 
+// A field of the header that is no number is told, unless another fault is, and left out.
+void dropIfNoNumber(std::string& field, std::size_t line, const std::string& wanted, std::string& fault) {
+  if (isNumberOrBlank(field)) return;
+  if (fault.empty()) fault = fieldFault(line, field, wanted);
+  field.clear();
+}
+
 }  // namespace
 
 std::vector<std::string> qt40Headers(std::string_view text) {
@@ -71,10 +78,8 @@ Qt40Hydrograph readQt40(std::string_view text, std::size_t index, std::size_t mo
          trim(columns(line, 1, 20)).empty()) {
     takeRow(lines, line, lenientNumber(baseFlow), mostFlows, hydrograph);
   }
-  if (!isNumberOrBlank(hydrograph.increment)) {
-    if (hydrograph.fault.empty()) hydrograph.fault = fieldFault(header, hydrograph.increment, "time increment");
-    hydrograph.increment.clear();
-  }
+  dropIfNoNumber(hydrograph.startTime, header, "start time", hydrograph.fault);
+  dropIfNoNumber(hydrograph.increment, header, "time increment", hydrograph.fault);
   return hydrograph;
 }
 

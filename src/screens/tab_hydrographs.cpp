@@ -100,10 +100,10 @@ std::string faultIn(const HydrographRow& row, std::size_t line) {
   return isNumberOrBlank(row.flow) ? "" : fieldFault(line, row.flow, "discharge");
 }
 
-// Whether a field was meant as a number, be it one with a decimal comma.
+// Whether a field was meant as a number, be it one with a decimal comma or a unit.
 bool isMeantAsNumber(std::string_view field) {
-  return field.find_first_of("0123456789") != std::string_view::npos &&
-         field.find_first_not_of("0123456789.,+-eE ") == std::string_view::npos;
+  const std::size_t first = field.find_first_not_of("+-., ");
+  return first != std::string_view::npos && field[first] >= '0' && field[first] <= '9';
 }
 
 bool isHeading(const HydrographRow& row) {

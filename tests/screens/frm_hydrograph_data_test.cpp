@@ -265,5 +265,49 @@ TEST_F(HydrographData, dropsWhatIsPastedBehindItsLastRow) {
   EXPECT_EQ(screen.grdTable.rows(), 5001);
 }
 
+TEST_F(HydrographData, offersTheDrawdownThatAnUndoneAnalysisLeaves) {
+  project.optNoBreachAnalysis.userSelect();
+  host.show(screen);
+  screen.chk10daydrawdown.userSet(true);
+  EXPECT_TRUE(screen.Frame3.visible() && screen.txtDrawdownTime.enabled());
+  screen.mnuUndo.click();
+  EXPECT_FALSE(screen.txtDrawdownTime.enabled());
+  screen.mnuUndo.click();
+  EXPECT_FALSE(screen.Frame3.visible());
+  screen.mnuRedo.click();
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.Frame3.visible() && screen.txtDrawdownTime.enabled());
+}
+
+TEST_F(HydrographData, showsTheTableOfAFormThatIsUndone) {
+  screen.selectForm(false);  // by a program: no step
+  host.show(screen);
+  screen.optConst.userSelect();
+  screen.mnuUndo.click();
+  EXPECT_TRUE(screen.varTable.visible() && screen.txtDesired.visible());
+  EXPECT_FALSE(screen.grdTable.visible() || screen.txtConst.visible());
+  EXPECT_EQ(screen.cmdConvert.caption(), kToConstant);
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.grdTable.visible());
+  EXPECT_EQ(screen.cmdConvert.caption(), kToVariable);
+}
+
+TEST_F(HydrographData, checksFieldsAgainBehindAnUndo) {
+  screen.txtTitle.userReplace(std::string(41, 'x'));
+  screen.txtTitle.userLeave();
+  takeBoxes();
+  screen.mnuUndo.click();
+  EXPECT_EQ(screen.txtTitle.text(), std::string(41, 'x'));
+  screen.txtTitle.userLeave();
+  EXPECT_EQ(takeBoxes(), Texts{"Data Check: Title cannot exceed 40 characters."});
+  put(screen.grdTable, 1, {"0", "10"});
+  setIncrement("1");
+  setIncrement("0.5");
+  screen.mnuUndo.click();
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+  screen.txtConst.userLeave();
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "5", "10"}));
+}
+
 }  // namespace
 }  // namespace kestra

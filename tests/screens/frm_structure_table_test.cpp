@@ -336,5 +336,20 @@ TEST_F(StructureTable, isEditedByTheCommandsOfItsMenu) {
   EXPECT_EQ(row(1), (Boxes{"1", "2", "3", "4"}));
 }
 
+TEST_F(StructureTable, offersTheStartThatAnUndoneAnalysisLeaves) {
+  project.optNoBreachAnalysis.userSelect();
+  desk.host.show(screen);
+  screen.optCFS.userSelect();
+  screen.mnuUndo.click();
+  EXPECT_TRUE(screen.optFEET.selected() && screen.optCFS.visible());
+  screen.mnuUndo.click();
+  EXPECT_TRUE(project.optBreachAnalysis.selected());
+  EXPECT_FALSE(screen.optCFS.visible());
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.optCFS.visible());
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.optCFS.selected());
+}
+
 }  // namespace
 }  // namespace kestra

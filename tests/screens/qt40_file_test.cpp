@@ -65,6 +65,11 @@ TEST(ReadQt40, takesNoHeaderValueThatIsNoNumber) {
   EXPECT_EQ(step.flows, (Texts{"1", "2"}));
   EXPECT_EQ(step.increment, "");
   EXPECT_EQ(step.fault, "line 3: \"0,5\" is no time increment.");
+  const std::string noStart = "HYD       STORM C                       noon      0.5\n";
+  const Qt40Hydrograph start = readQt40(kAnchor + noStart + rows, 0, 100);
+  EXPECT_EQ(start.flows, (Texts{"1", "2"}));
+  EXPECT_EQ(start.startTime + "," + start.increment, ",0.5");
+  EXPECT_EQ(start.fault, "line 3: \"noon\" is no start time.");
 }
 
 TEST(ReadQt40, givesNothingForAHydrographThatIsNotThere) {

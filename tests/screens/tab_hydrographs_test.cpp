@@ -150,5 +150,13 @@ TEST(TabRows, passOverAHeading) {
   }
 }
 
+TEST(TabRows, takeNoFirstLineForAHeadingWhoseFieldsBeginAsNumbers) {
+  for (const std::string time : {"0,5", "1d5", " -12 h", "10:00"}) {
+    std::string fault;
+    EXPECT_EQ(readTabRows(time + "\t7,5\n0\t10\n", 5, &fault), Rows());
+    EXPECT_EQ(fault, "line 1: \"" + time.substr(time.find_first_not_of(' ')) + "\" is no time.");
+  }
+}
+
 }  // namespace
 }  // namespace kestra
