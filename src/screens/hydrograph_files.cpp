@@ -23,6 +23,7 @@ constexpr const char* kTorveFilter = "All Files (*.*)|*.*| Hydrograph Files (*.V
 constexpr const char* kThyFilter = "All Files (*.*)|*.*|Hydrograph Data Files (*.THY)|*.THY";
 constexpr const char* kTabFilter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
 constexpr const char* kNoHydrograph = "The file holds no hydrograph.";
+constexpr const char* kNoPoints = "The record holds no points.";
 constexpr int kVhyColumn = 1;  // the files do not tell theirs
 
 std::size_t pointsOf(const Table& table) {
@@ -33,6 +34,11 @@ std::vector<std::string> textsOf(const std::vector<HydrographRow>& rows, std::st
   std::vector<std::string> texts;
   for (const HydrographRow& row : rows) texts.push_back(row.*text);
   return texts;
+}
+
+bool holdsPoints(const std::vector<HydrographRow>& rows) {
+  const auto filled = [](const HydrographRow& row) { return !trim(row.time).empty() || !trim(row.flow).empty(); };
+  return std::any_of(rows.begin(), rows.end(), filled);
 }
 
 }  // namespace
@@ -101,6 +107,7 @@ void HydrographFiles::importClocked(const Menu& command, ClockedReader read) {
   if (!file) return;
   const auto hydrograph = read(file->text, pointsOf(screen_.varTable));
   if (!hydrograph) return warn("File Import Error", "Invalid tab-delimited Rivex File");
+  if (hydrograph->rows.empty() && hydrograph->fault.empty()) return warn(file->trap, kNoHydrograph);
   takeVariable(hydrograph->rows);
   if (tellFault(*file, hydrograph->fault)) return;
   for (const int column : {kHydrographTime, kHydrographFlow}) screen_.varTable.setRightAligned(column, true);
@@ -114,8 +121,11 @@ void HydrographFiles::importTab() {
   const auto file = chooseText(mnuImportTab, kTextFilter);
   if (!file) return;
   std::string fault;
-  takeVariable(readTabRows(file->text, kMostHydrographPoints, &fault));
-  if (!tellFault(*file, fault)) screen_.setIncrement("");
+  const std::vector<HydrographRow> rows = readTabRows(file->text, kMostHydrographPoints, &fault);
+  takeVariable(rows);
+  if (tellFault(*file, fault)) return;
+  if (!holdsPoints(rows)) warn(file->trap, kNoHydrograph);
+  screen_.setIncrement("");
 }
 
 std::optional<std::string> HydrographFiles::chooseEntry(std::vector<std::string> entries) {
@@ -138,6 +148,7 @@ void HydrographFiles::importQt40() {
   const int hydrographSelected = context_.screens.hydrographSelect->List1.index();
   const Qt40Hydrograph hydrograph =
       readQt40(file->text, static_cast<std::size_t>(std::max(hydrographSelected, 0)), kMostHydrographPoints);
+  if (hydrograph.flows.empty() && hydrograph.fault.empty()) return warn(file->trap, kNoPoints);
   screen_.txtTitle.setText(hydrograph.title);
   screen_.txtStartTime.setText(hydrograph.startTime);
   screen_.setIncrement(hydrograph.increment);
@@ -168,7 +179,7 @@ void HydrographFiles::importTorve() {
 void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
   const VhyHydrograph hydrograph = readVhy(file.text, code, kVhyColumn, kMostHydrographPoints);
   if (hydrograph.rows.empty()) {
-    if (!tellFault(file, hydrograph.fault)) warn(file.trap, "The record holds no points.");
+    if (!tellFault(file, hydrograph.fault)) warn(file.trap, kNoPoints);
     return;
   }
   const bool ended = !hydrograph.fault.empty();

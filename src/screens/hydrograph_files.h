@@ -14,9 +14,9 @@ namespace kestra {
 class frmHydrographData;
 
 // The import and export commands of the hydrograph screen. A file that cannot be read, or written, or holds no
-// hydrograph is told in a box and changes nothing (a .VHY file without a known record: no box). A value that is none
-// ends an import with a box: the form is switched and the rows before the value stay; what an import does behind its
-// rows is left out.
+// hydrograph is told in a box and changes nothing (a .VHY file without a known record: no box; two columns of text
+// without a row: the table is emptied). A value that is none ends an import with a box: the form is switched and the
+// rows before the value stay; what an import does behind its rows is left out.
 class HydrographFiles {
  public:
   HydrographFiles(frmHydrographData& screen, InputContext& context);

@@ -220,5 +220,36 @@ TEST_F(HydrographImportFaults, doNotComeFromLineEndsOrAByteOrderMark) {
   }
 }
 
+TEST_F(HydrographImportFaults, areToldOfFilesThatEndBeforeTheirData) {
+  struct Case {
+    Menu& command;
+    std::string text;
+    const char* box;
+  };
+  for (const auto& [command, text, box] :
+       {Case{menu.mnuImportBasix, "Storm\n----------\n", "Import BASIX File Error: The file holds no hydrograph."},
+        Case{menu.mnuImportBasix, "Storm\n----------\n\n \n", "Import BASIX File Error: The file holds no hydrograph."},
+        Case{menu.mnuImportQT40, "INPUT HYDROGRAPH:\nHYD       STORM\n",
+             "Import QT-40 File Error: The record holds no points."}}) {
+    import(command, text);
+    EXPECT_EQ(takeBoxes(), Texts{box});
+    EXPECT_EQ(fields(), (Texts{"1", "7", "old"}));
+    EXPECT_EQ(screen.grdTable.cell(1, 1) + screen.varTable.cell(1, 0), "99");
+    EXPECT_TRUE(screen.optConst.selected());
+  }
+}
+
+TEST_F(HydrographImportFaults, areToldOfATextWithoutRowsWhichEmptiesTheTable) {
+  for (const char* text : {"", "\n\n", "Time\tFlow\n", "\t\n"}) {
+    screen.selectForm(true);
+    put(screen.varTable, 0, {"9"});
+    import(menu.mnuImportTab, text);
+    EXPECT_EQ(takeBoxes(), Texts{"Import Tab-delimited Text File Error: The file holds no hydrograph."});
+    EXPECT_EQ(screen.varTable.cell(1, 0), "");
+    EXPECT_TRUE(screen.optVariable.selected());
+    EXPECT_EQ(screen.txtConst.text(), "");
+  }
+}
+
 }  // namespace
 }  // namespace kestra
