@@ -1,6 +1,7 @@
 #include "screens/file_choice.h"
 
-#include <utility>
+#include <algorithm>
+#include <string_view>
 
 namespace kestra {
 
@@ -20,10 +21,17 @@ std::optional<std::string> chooseNamedFile(Ports& ports, const FileDialog& dialo
 Result<std::string> readLines(Ports& ports, const std::string& path) {
   auto read = ports.files.read(path, kReadLimit);
   if (!read) return read;
-  std::string text = std::move(read).value();
-  if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
-  for (std::size_t at = text.find('\r'); at != std::string::npos; at = text.find('\r', at + 1)) {
-    if (at + 1 == text.size() || text[at + 1] != '\n') text[at] = '\n';
+  std::string_view rest = read.value();
+  if (rest.starts_with("\xEF\xBB\xBF")) rest.remove_prefix(3);
+  std::string text;
+  text.reserve(rest.size());
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find('\r'), rest.size());
+    text += rest.substr(0, end);
+    rest.remove_prefix(end);
+    const std::size_t returns = std::min(rest.find_first_not_of('\r'), rest.size());
+    rest.remove_prefix(returns);
+    if (!rest.starts_with('\n')) text.append(returns, '\n');
   }
   return text;
 }

@@ -194,6 +194,7 @@ void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
   if (!tellFault(file, hydrograph.fault)) context_.base.host.show(screen_);
 }
 
+// A record without points empties the table: so an empty table was written.
 bool HydrographFiles::takeThy(const TextFile& file) {
   const auto hydrograph = readThy(file.text);
   if (!hydrograph) {
@@ -203,6 +204,7 @@ bool HydrographFiles::takeThy(const TextFile& file) {
   if (hydrograph->title) screen_.txtTitle.setText(*hydrograph->title);
   screen_.setIncrement(hydrograph->increment);
   takeConstant(hydrograph->flows, !hydrograph->fault.empty());
+  if (hydrograph->flows.empty() && hydrograph->fault.empty()) warn(file.trap, kNoPoints);
   return !tellFault(file, hydrograph->fault);
 }
 

@@ -57,8 +57,9 @@ TEST_F(InputOperations, tellTheHydrographScreenWhichHydrographIsMeant) {
   const std::string row = "            0\n 0          ";
   memory.putDirectory("/p");
   memory.put("/p/a.VHY", "31\n" + row + "5\n 1          6\nENDTABLE\n33\n" + row + "7\n 1          8\nENDTABLE\n");
-  tell("{'do':'click','screen':'frmHydrographData','control':'mnuImportTorve','answers':[{'file':'/p/a.VHY'},"
-       "{'modal':[{'do':'call','name':'frmHydrographData.setHydrographCode','args':['3']}]}]}");
+  tell(
+      "{'do':'click','screen':'frmHydrographData','control':'mnuImportTorve','answers':[{'file':'/p/a.VHY'},"
+      "{'modal':[{'do':'call','name':'frmHydrographData.setHydrographCode','args':['3']}]}]}");
   EXPECT_EQ(column("frmHydrographData", "grdTable", 1, 1, 2), "{'ok':true,'value':[['7'],['8']]}");
 }
 

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "screens/hydrograph_files.h"
 #include "support/hydrograph_desk.h"
 
@@ -212,11 +210,13 @@ TEST_F(HydrographImportFaults, doNotComeFromLineEndsOrAByteOrderMark) {
         Case{menu.mnuImportQT40, qt40, screen.grdTable, {"1", "2", ""}},
         Case{menu.mnuImportTorve, kVhy, screen.grdTable, {"6", "7", ""}},
         Case{menu.mnuImportTorve, thy, screen.grdTable, {"3", "4", ""}}}) {
-    std::string changed = "\xEF\xBB\xBF" + text;
-    std::replace(changed.begin(), changed.end(), '\n', '\r');
-    import(command, changed);
-    EXPECT_EQ(takeBoxes(), Texts());
-    EXPECT_EQ(column(table, 1, 3), flows) << text;
+    for (const std::string end : {"\n", "\r\n", "\r", "\r\r\n"}) {
+      std::string changed = "\xEF\xBB\xBF";
+      for (const char c : text) changed += c == '\n' ? end : std::string(1, c);
+      import(command, changed);
+      EXPECT_EQ(takeBoxes(), Texts());
+      EXPECT_EQ(column(table, 1, 3), flows) << text;
+    }
   }
 }
 
@@ -248,6 +248,15 @@ TEST_F(HydrographImportFaults, areToldOfATextWithoutRowsWhichEmptiesTheTable) {
     EXPECT_EQ(screen.varTable.cell(1, 0), "");
     EXPECT_TRUE(screen.optVariable.selected());
     EXPECT_EQ(screen.txtConst.text(), "");
+  }
+}
+
+TEST_F(HydrographImportFaults, areToldOfATHYFileWithoutPointsWhichEmptiesTheTable) {
+  for (const std::string text : {"HYD\n", "HYD\n                    0.5\nENDTABLE\n"}) {
+    import(menu.mnuImportTorve, text);
+    EXPECT_EQ(takeBoxes(), Texts{"Import TORVE File Error: The record holds no points."});
+    EXPECT_EQ(screen.grdTable.cell(1, 1), "");
+    EXPECT_EQ(screen.txtConst.text(), text.size() > 5 ? "0.5" : "");
   }
 }
 
