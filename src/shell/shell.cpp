@@ -22,6 +22,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     : topScreen(context, applicationDirectory),
       inputWindow(context, topScreen),
       input(context, inputWindow),
+      controlFiles(input, context),
       projects(input.context, topScreen, inputWindow),
       newProject(context, projects),
       openProject(context, projects),

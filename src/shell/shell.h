@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "control/control_files.h"
 #include "controls/undo_history.h"
 #include "graphics/line_settings.h"
 #include "screens/input_screen_set.h"
@@ -23,6 +24,7 @@ class Shell {
   frmTopScreen topScreen;
   frmKestra inputWindow;
   InputScreenSet input;
+  ControlFiles controlFiles;
   UndoHistory history;  // of the input screens
   Projects projects;
   frmNewProject newProject;
