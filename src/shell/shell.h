@@ -12,6 +12,7 @@
 #include "shell/frm_top_screen.h"
 #include "shell/project_screens.h"
 #include "shell/projects.h"
+#include "shell/window_commands.h"
 #include "summary/summary_fields.h"
 
 namespace kestra {
@@ -30,6 +31,10 @@ class Shell {
   frmNewProject newProject;
   frmOpenProject openProject;
   frmDeleteProject deleteProject;
+  frmOutput output;
+  frmProgress progress;
+  FileDesk fileDesk;
+  WindowCommands commands;  // of the input window
   TextScreen about;
   TextScreen disclaimer;
 

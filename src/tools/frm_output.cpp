@@ -13,10 +13,10 @@ namespace {
 
 constexpr std::array<std::string_view, 3> kJobs = {"TORVE", "VERN2", "QUIL"};
 constexpr std::array<int, 3> kPartNumbers = {0, 31, 101};
-constexpr int kField = 10;          // columns of a field
-constexpr int kNumberColumn = 11;   // of a record's first number
-constexpr int kTitleColumn = 21;    // of a job's title
-constexpr int kNameColumn = 71;     // of an element's name
+constexpr int kField = 10;         // columns of a field
+constexpr int kNumberColumn = 11;  // of a record's first number
+constexpr int kTitleColumn = 21;   // of a job's title
+constexpr int kNameColumn = 71;    // of an element's name
 
 std::string keywordOf(std::string_view line) {
   return std::string(trim(columns(line, 1, kField)));
