@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/result.h"
@@ -8,13 +10,6 @@
 #include "screens/input_screen_set.h"
 
 namespace kestra {
-
-// A field whose text is longer than its columns in the control file.
-struct CutField {
-  std::string field;  // "Principal spillway conduit, length"
-  std::string value;  // as entered
-  std::string lost;   // its end, which the file does not hold
-};
 
 // The control file both ways: its texts from the screens, the screens from its texts, and the files themselves. Boxes
 // are shown where a call says so. Nothing here asks whether the screens were edited, or clears them before a load.
@@ -61,6 +56,16 @@ class ControlFiles {
   void ReadSpillwayRun(const std::string& runText, int spillway);
 
  private:
+  // Of the spillways' runs in a file: how many lines stand before each.
+  using FirstLines = std::array<std::size_t, kAuxSpillways>;
+
+  std::string outputDate(const std::string& fileName);
+  std::vector<int> builtRuns() const;
+  std::string wholeText() const;
+  void parse(const std::string& fileName, const FirstLines& before);
+  void tellFault(const std::string& file, std::size_t line, std::string_view record, const std::string& what);
+  void showLoaded();
+
   InputScreenSet& screens_;
   ScreenContext& context_;
 };

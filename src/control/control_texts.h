@@ -14,4 +14,11 @@ struct ControlTexts {
   std::array<std::string, 101> auxRunText;
 };
 
+// A field whose text is longer than its columns in the control file.
+struct CutField {
+  std::string field;  // "Principal spillway conduit, length"
+  std::string value;  // as entered
+  std::string lost;   // its end, which the file does not hold
+};
+
 }  // namespace kestra

@@ -41,9 +41,8 @@ std::optional<std::string> CheckCommands::fileToCheck() {
 std::optional<Findings> CheckCommands::checkFile(const std::string& path) {
   const Status run = RunIntegrityChecker(desk_.context.ports, applicationDirectory_, path);
   if (!run) {
-    desk_.boxes().tell(
-        kTitle, "The checker could not be started. " + run.failure().path + ": " + run.failure().reason,
-        BoxIcon::critical);
+    desk_.boxes().tell(kTitle, "The checker could not be started. " + run.failure().path + ": " + run.failure().reason,
+                       BoxIcon::critical);
     return std::nullopt;
   }
   checked_ = path;

@@ -93,8 +93,7 @@ bool ImportCommand::importFile(const std::string& source) {
 
 bool ImportCommand::mayReplace(const std::string& target) {
   return desk_.boxes().confirm(
-      "Import Files",
-      "The file " + std::string(ParsePathName(target)) + " already exists. Do you want to replace it?");
+      "Import Files", "The file " + std::string(ParsePathName(target)) + " already exists. Do you want to replace it?");
 }
 
 // What cannot be removed stays; the next build of the file clears it away.

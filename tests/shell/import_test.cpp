@@ -76,8 +76,8 @@ TEST_F(Import, asksBeforeItReplacesAFileAndSkipsItOnNo) {
 }
 
 TEST_F(Import, takesTheResultsOfAReplacedFileAwayAndNothingElse) {
-  for (const char* name : {"a.KSC", "a.OUT", "a.DIS", "a_1.LSP", "a2_0.V2D", "a/a2_0.DG1", "ab.KSC", "ab.OUT", "a.b.KSC",
-                           "a.b.OUT", "SUMMARY.IDE"}) {
+  for (const char* name : {"a.KSC", "a.OUT", "a.DIS", "a_1.LSP", "a2_0.V2D", "a/a2_0.DG1", "ab.KSC", "ab.OUT",
+                           "a.b.KSC", "a.b.OUT", "SUMMARY.IDE"}) {
     put(name, "old");
   }
   desk.memory.put("/src/a.KSC", kText);
@@ -97,8 +97,8 @@ TEST_F(Import, endsAtAFileThatDoesNotBeginLikeAControlFileAndRemovesNothing) {
     desk.memory.put("/src/a.KSC", text);
     desk.boxes.answers = {BoxButton::yes};
     import({"/src/a.KSC", "/src/b.KSC"});
-    EXPECT_EQ(desk.takeBoxes(), (Boxes{"Import Files: The file a.KSC already exists. Do you want to replace it?",
-                                       kInvalid[0]}));
+    EXPECT_EQ(desk.takeBoxes(),
+              (Boxes{"Import Files: The file a.KSC already exists. Do you want to replace it?", kInvalid[0]}));
     EXPECT_EQ(content("a.KSC"), "old");
     EXPECT_EQ(content("a.OUT"), "old");
     EXPECT_EQ(content("b.KSC"), std::nullopt);
@@ -106,13 +106,13 @@ TEST_F(Import, endsAtAFileThatDoesNotBeginLikeAControlFileAndRemovesNothing) {
 }
 
 TEST_F(Import, takesWhateverControlFileTheSpillwayProgramHasToo) {
-  for (const char* word : {"TORVE", "VERN2", "QUIL", "KESTRA", "  QUIL    rest"}) EXPECT_TRUE(beginsLikeControlFile(word));
+  for (const char* word : {"TORVE", "VERN2", "QUIL", "KESTRA", "  QUIL    rest"})
+    EXPECT_TRUE(beginsLikeControlFile(word));
 }
 
 TEST_F(Import, saysWhyAFileCannotBeReadOrWritten) {
   import({"/src/none.KSC"});
-  EXPECT_EQ(desk.takeBoxes(),
-            Boxes{"Error Message: File Import Error\r\n/src/none.KSC: No such file or directory"});
+  EXPECT_EQ(desk.takeBoxes(), Boxes{"Error Message: File Import Error\r\n/src/none.KSC: No such file or directory"});
   put("a.KSC", "old");
   put("a.OUT", "old");
   desk.memory.put("/src/a.KSC", kText);

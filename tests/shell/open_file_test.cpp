@@ -77,8 +77,8 @@ TEST_F(Open, changesNothingWhenNoGoodFileWasChosen) {
     const char* chosen;  // null: cancelled
     Boxes told;
   };
-  const std::string tooLong = desk.shell.controlFiles.refusal(
-      desk.shell.controlFiles.checkLoadable("/home/dam/long.KSC").failure());
+  const std::string tooLong =
+      desk.shell.controlFiles.refusal(desk.shell.controlFiles.checkLoadable("/home/dam/long.KSC").failure());
   const Row table[] = {{nullptr, {}},
                        {"", {}},
                        {"/home/other/far.KSC", {kOutside}},

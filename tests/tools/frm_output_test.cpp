@@ -69,8 +69,8 @@ TEST_F(Output, givesEachPartOfAJobToARunAndKeepsWhatItIs) {
   const std::string third = record({{1, "SAVMOV"}, {11, "101"}});
   const std::string other = record({{1, "SAVMOV"}, {11, "5"}, {71, "Nothing new"}});
   take(record({{1, "TORVE"}, {21, "Job"}}) + first + structure + second + watershed + third + other + "ENDRUN");
-  EXPECT_EQ(runs, (std::array<std::string, 4>{first + structure, second + watershed, third + other + "ENDRUN\r\n",
-                                              "d"}));
+  EXPECT_EQ(runs,
+            (std::array<std::string, 4>{first + structure, second + watershed, third + other + "ENDRUN\r\n", "d"}));
   EXPECT_EQ(output.elements(), (std::vector<frmOutput::Element>{
                                    {0, "Upper", "1", "7"}, {31, "Lower creek", "2", "12"}, {101, "", "", ""}}));
   EXPECT_EQ(output.Pop(), 101);
