@@ -7,8 +7,7 @@ namespace {
 
 constexpr const char* kPath = "/home/dam/pond.KSC";
 constexpr const char* kQuestion = "Kestra Input: Do you want to save changes before building?";
-constexpr const char* kReplace =
-    "Save As...: The file /home/dam/pond.KSC already exists. Do you want to replace it?";
+constexpr const char* kReplace = "Save As...: The file /home/dam/pond.KSC already exists. Do you want to replace it?";
 using Started = std::vector<std::string>;
 
 struct Build : testing::Test {

@@ -7,8 +7,7 @@ namespace {
 
 constexpr const char* kPath = "/home/dam/pond.KSC";
 constexpr const char* kChecker = "/app/KestraIntCheck.exe";
-constexpr const char* kQuestion =
-    "Warning: Do you want to save changes to the current file before checking integrity?";
+constexpr const char* kQuestion = "Warning: Do you want to save changes to the current file before checking integrity?";
 constexpr const char* kChoose = "Build: No file is opened or created, choose a file to check?";
 constexpr const char* kView = "Integrity Check: Integrity check generated warnings. View?";
 constexpr const char* kNone = "Integrity Check: No Errors or Warnings Found";

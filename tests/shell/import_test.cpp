@@ -84,7 +84,8 @@ TEST_F(Import, takesTheResultsOfAReplacedFileAwayAndNothingElse) {
   desk.boxes.answers = {BoxButton::yes};
   import({"/src/a.KSC"});
   Files left;
-  for (const DirectoryEntry& entry : desk.memory.list("/home/dam").value()) left.push_back(entry.name);
+  const auto entries = desk.memory.list("/home/dam");
+  for (const DirectoryEntry& entry : entries.value()) left.push_back(entry.name);
   EXPECT_EQ(left, (Files{"SUMMARY.IDE", "a.KSC", "a.b.KSC", "a.b.OUT", "ab.KSC", "ab.OUT", "owner"}));
   EXPECT_EQ(content("a.KSC"), kText);
 }

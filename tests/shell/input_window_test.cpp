@@ -92,9 +92,9 @@ TEST_F(InputWindow, hasNoCommandOnFilesWithoutAProject) {
 TEST(HideInputScreens, hidesThoseThatAreOnShow) {
   WindowDesk desk;
   ScreenHost& host = desk.app.host;
-  for (const char* name : {"frmAuxRatingTable", "frmAuxSpillwayProfile", "frmAuxSpillways", "frmDamSurface",
-                           "frmHydrographData", "frmPSConduit", "frmPSRatingTable", "frmPSType", "frmStructureTable",
-                           "Properties", "frmHeadcut"}) {
+  for (const char* name :
+       {"frmAuxRatingTable", "frmAuxSpillwayProfile", "frmAuxSpillways", "frmDamSurface", "frmHydrographData",
+        "frmPSConduit", "frmPSRatingTable", "frmPSType", "frmStructureTable", "Properties", "frmHeadcut"}) {
     host.show(*host.find(name));
   }
   HideInputScreens(host);

@@ -57,8 +57,8 @@ TEST_F(RebuildAll, goesOnAfterAFailureAndTellsOfItAtTheEnd) {
   const std::string why = desk.shell.controlFiles.checkLoadable("/home/dam/long.KSC").failure().reason;
   desk.window.mnuRebuildAll.click();
   EXPECT_EQ(desk.runs.started, (Started{"/home/dam/a.ksc", "/home/dam/b.KSC"}));
-  EXPECT_EQ(desk.takeBoxes(), Boxes{"Rebuild All: These files could not be rebuilt:\r\n\r\na.ksc: no output\r\nlong.KSC: " +
-                                    why});
+  EXPECT_EQ(desk.takeBoxes(),
+            Boxes{"Rebuild All: These files could not be rebuilt:\r\n\r\na.ksc: no output\r\nlong.KSC: " + why});
 }
 
 TEST_F(RebuildAll, endsBetweenTwoFilesWhenItIsStopped) {
