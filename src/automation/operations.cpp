@@ -45,6 +45,7 @@ const std::vector<Operation>& operations() {
     std::vector<Operation> all;
     append(all, recordOperations());
     append(all, shellOperations());
+    append(all, outputOperations());
     append(all, spillwayOperations());
     append(all, auxOperations());
     append(all, structureOperations());

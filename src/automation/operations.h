@@ -39,6 +39,7 @@ struct Operation {
 std::vector<Operation> hydrographOperations();
 std::vector<Operation> recordOperations();
 std::vector<Operation> shellOperations();
+std::vector<Operation> outputOperations();    // of frmOutput
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
 std::vector<Operation> auxOperations();
 std::vector<Operation> structureOperations();

@@ -65,6 +65,7 @@ const std::map<std::string, Reader>& readers() {
       {"totalInstances", fromState(&State::totalInstances)},
       {"lhsSeed", fromState(&State::lhsSeed)},
       {"bRandomSample", fromState(&State::bRandomSample)},
+      {"bRandomPairing", fromState(&State::bRandomPairing)},
       {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
       {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
       {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},

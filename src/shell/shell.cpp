@@ -22,10 +22,15 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     : topScreen(context, applicationDirectory),
       inputWindow(context, topScreen),
       input(context, inputWindow),
+      controlFiles(input, context),
       projects(input.context, topScreen, inputWindow),
       newProject(context, projects),
       openProject(context, projects),
       deleteProject(context, projects, topScreen, applicationDirectory),
+      output(input.projectInformation),
+      progress(context),
+      fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress},
+      commands(fileDesk, projects, applicationDirectory),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
       context_(context),
@@ -48,14 +53,13 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     };
   }
   topScreen.onEnd = [this] { end(); };
-  inputWindow.onExit = [this] { projects.leave(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
     topScreen.windows().shown(screen);
     topScreen.windows().FindFormToBuildItems();
   };
   for (Screen* screen : std::initializer_list<Screen*>{&topScreen, &inputWindow, &newProject, &openProject,
-                                                       &deleteProject, &about, &disclaimer}) {
+                                                       &deleteProject, &output, &progress, &about, &disclaimer}) {
     host.enter(*screen);
   }
   input.enterAll(host);
@@ -76,7 +80,13 @@ void Shell::startUp(const std::string& commandLine) {
 
 void Shell::openCommandLine(std::string path) {
   if (path.front() == '"') path = path.substr(1, path.size() - 2);
-  if (!projects.openFile(absolutePath(path, context_.ports.files.currentDirectory()))) ended_ = true;
+  path = absolutePath(path, context_.ports.files.currentDirectory());
+  if (!projects.openFor(path)) {
+    ended_ = true;
+    return;
+  }
+  commands.file.take(path);
+  showInputWindow(fileDesk);
 }
 
 void Shell::end() {
