@@ -47,6 +47,7 @@ const std::vector<Operation>& operations() {
     append(all, shellOperations());
     append(all, spillwayOperations());
     append(all, auxOperations());
+    append(all, controlOperations());
     append(all, structureOperations());
     append(all, hydrographOperations());
     return all;

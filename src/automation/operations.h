@@ -41,6 +41,7 @@ std::vector<Operation> recordOperations();
 std::vector<Operation> shellOperations();
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
 std::vector<Operation> auxOperations();
+std::vector<Operation> controlOperations();  // on the control file
 std::vector<Operation> structureOperations();
 
 // Every one of them.
