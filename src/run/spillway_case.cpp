@@ -5,13 +5,13 @@
 #include "base/paths.h"
 #include "base/runtime_fault.h"
 #include "base/text.h"
+#include "platform/date_text.h"
 #include "platform/files.h"
 #include "results/false_structure.h"
 #include "results/result_files.h"
 #include "results/spillway_digest.h"
 #include "run/checked_directory.h"
 #include "run/dam_solver.h"
-#include "run/date_text.h"
 #include "run/file_steps.h"
 #include "run/instance_records.h"
 #include "run/old_run_files.h"
@@ -62,22 +62,23 @@ class SpillwayRun {
   }
 
   void prepare() {
-    std::string text = readText(files(), file_);
-    if (!records_.recordedDate.empty() && records_.spillwayNumber >= 1) text = refreshed(text);
-    text = withoutLink(text);
-    writeText(files(), file_, text);
+    const std::string text = readText(files(), file_);
+    writeText(files(), file_, withoutLink(records_.spillwayNumber >= 1 ? refreshed(text) : text));
   }
 
-  // With the discharge of the dam's last run where that is another than the one that was recorded. Where the dam's
-  // output cannot be read the table stands.
+  // With the discharge of the dam's last run, where that is another than the one that was recorded or the table is the
+  // one that a run is written with. Where the dam's output cannot be read the table stands.
   std::string refreshed(const std::string& text) try {
-    const auto output = files().status(presentPath(files(), damOutputOf(records_.damFile)));
-    if (!output) return text;
-    const std::string date = dateText(context_.ports.clock.localTime(output.value().modifiedNs));
-    if (date == records_.recordedDate && !hasPlaceholderHydrograph(text)) return text;
+    if (!hasPlaceholderHydrograph(text) && !damHasRunSince()) return text;
     return withHydrograph(text, ExtractSpillwayInflow(files(), records_.damFile, records_.spillwayNumber));
   } catch (const RuntimeFault&) {
     return text;
+  }
+
+  bool damHasRunSince() {
+    const auto output = files().status(presentPath(files(), damOutputOf(records_.damFile)));
+    if (!output || records_.recordedDate.empty()) return false;
+    return dateText(context_.ports.clock.localTime(output.value().modifiedNs)) != records_.recordedDate;
   }
 
   void runAlone() {

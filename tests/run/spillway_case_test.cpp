@@ -80,9 +80,15 @@ TEST_F(SpillwayCaseTest, leavesTheHydrographOfTheSameDateUnlessItIsNone) {
   EXPECT_EQ(text(kInstance), instance({}, kNewTable)) << "a file that was saved and built within one second";
 }
 
-TEST_F(SpillwayCaseTest, leavesTheHydrographWithoutARecordedDateOrLink) {
+TEST_F(SpillwayCaseTest, refreshesAHydrographThatIsNoneWithoutARecordedDate) {
   run(instance({"KESTRA    1         /p/dam.KSC"}));
-  EXPECT_EQ(text(kInstance), instance({}));
+  EXPECT_EQ(text(kInstance), instance({}, kNewTable)) << "the dam had not been run when the file was saved";
+}
+
+TEST_F(SpillwayCaseTest, leavesTheHydrographWithoutARecordedDateOrLink) {
+  const std::string table = lines({kHyd, "                    5", "ENDTABLE"});
+  run(instance({"KESTRA    1         /p/dam.KSC"}, table));
+  EXPECT_EQ(text(kInstance), instance({}, table));
   run(instance({"MODIFIED  1/1/2000"}));
   EXPECT_EQ(text(kInstance), instance({}));
   run(instance({"KESTRA    0         /p/dam.KSC", "MODIFIED  1/1/2000"}));
