@@ -72,7 +72,7 @@ TEST_F(SpillwayCaseTest, refreshesTheHydrographWhenTheDamHasRunSince) {
 }
 
 TEST_F(SpillwayCaseTest, leavesTheHydrographOfTheSameDateUnlessItIsNone) {
-  const std::vector<std::string> link = {"KESTRA    1         /p/dam.KSC", "MODIFIED  1/1/1970"};
+  const std::vector<std::string> link = {"KESTRA    1         /p/dam.KSC", "MODIFIED  01/01/1970 00:00:00"};
   const std::string table = lines({kHyd, "                    5", "ENDTABLE"});
   run(instance(link, table));
   EXPECT_EQ(text(kInstance), instance({}, table));
