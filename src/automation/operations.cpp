@@ -48,6 +48,7 @@ const std::vector<Operation>& operations() {
     append(all, outputOperations());
     append(all, spillwayOperations());
     append(all, auxOperations());
+    append(all, controlOperations());
     append(all, structureOperations());
     append(all, hydrographOperations());
     return all;

@@ -42,6 +42,7 @@ std::vector<Operation> shellOperations();
 std::vector<Operation> outputOperations();    // of frmOutput
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
 std::vector<Operation> auxOperations();
+std::vector<Operation> controlOperations();  // on the control file
 std::vector<Operation> structureOperations();
 
 // Every one of them.

@@ -8,8 +8,9 @@
 #include "base/paths.h"
 #include "base/runtime_fault.h"
 #include "base/text.h"
+#include "control/companion.h"
 #include "control/file_names.h"
-#include "control/main_run_reader.h"
+#include "control/load_texts.h"
 #include "control/main_run_writer.h"
 #include "control/spillway_run_reader.h"
 #include "control/spillway_run_writer.h"
@@ -163,8 +164,46 @@ bool ControlFiles::WriteControlFiles(const std::string& fileName) {
   }
   if (!written) {
     context_.ports.boxes.tell("File Error", "Unable to generate spillway analysis input file", BoxIcon::critical);
+    return false;
   }
-  return written;
+  if (isInProject(fileName)) {
+    const Status kept = writeCompanion(fileName, whole);
+    if (!kept) {
+      context_.ports.boxes.tell("Warning",
+                                fmt::format("{} was saved. What was entered and has no place in it could not be kept "
+                                            "beside it: {}.",
+                                            fileName, kept.failure().reason),
+                                BoxIcon::warning);
+    }
+  }
+  return true;
+}
+
+bool ControlFiles::isInProject(const std::string& fileName) {
+  FileSystem& files = context_.ports.files;
+  const std::string& project = context_.state.projectDir;
+  if (project.empty()) return false;
+  const std::string directory(directoryOf(absolutePath(fileName, files.currentDirectory())));
+  if (directory == project) return true;
+  const auto here = files.canonical(directory);
+  const auto there = files.canonical(project);
+  return here && there && here.value() == there.value();
+}
+
+// What has no place in the file is kept beside it; where there is nothing to keep, nothing stands there.
+Status ControlFiles::writeCompanion(const std::string& fileName, const std::string& whole) {
+  FileSystem& files = context_.ports.files;
+  const std::string path = companionFileOf(fileName);
+  const auto companion = composeCompanion(screens_, context_, texts, whole, ParsePathName(fileName));
+  if (!companion) return exists(files, path) ? files.removeFile(path) : Status(Done{});
+  if (const Status made = makeDirectories(files, std::string(directoryOf(path))); !made) return made;
+  return writeWholeFile(files, path, *companion);
+}
+
+void ControlFiles::readCompanion(const std::string& fileName, const std::string& whole) {
+  if (!isInProject(fileName)) return;
+  const auto companion = context_.ports.files.read(companionFileOf(fileName), kReadLimit);
+  if (companion) giveBackCompanion(screens_, context_, companion.value(), whole);
 }
 
 std::vector<CutField> ControlFiles::cutFields() {
@@ -230,31 +269,32 @@ void ControlFiles::ReadControlFile(const std::string& fileName) {
     first[i] = lines.lineNumber();
     texts.auxRunText[i] = takeRun(lines);
   }
-  parse(fileName, first);
+  const LoadOfScreens load(context_.host);
+  if (parse(fileName, first)) readCompanion(fileName, text.value());
+  showLoaded();
 }
 
 void ControlFiles::ParseControlText() {
+  const LoadOfScreens load(context_.host);
   parse(context_.state.currentFile, {});
+  showLoaded();
 }
 
-void ControlFiles::parse(const std::string& fileName, const FirstLines& before) {
-  const LoadOfScreens load(context_.host);
+// False after a box that tells of a fault.
+bool ControlFiles::parse(const std::string& fileName, const FirstLines& before) {
   texts.workText.clear();
-  ReadPlace place;
-  std::size_t linesBefore = 0;
+  LoadPlace at;
+  bool whole = true;
   try {
     ScreenFields fields(screens_.context);
-    readMainRun(screens_.context, fields, texts.controlText, place);
-    for (std::size_t i = 0; i < before.size(); ++i) {
-      if (texts.auxRunText[i].empty()) continue;
-      linesBefore = before[i];
-      const int named = namedSpillway(texts.auxRunText[i]);
-      readSpillwayRun(screens_.context, fields, named < 0 ? static_cast<int>(i) : named, texts.auxRunText[i], place);
-    }
+    loadTexts(screens_.context, fields, texts, at);
   } catch (const RuntimeFault& fault) {
-    tellFault(fileName, place.line + linesBefore, place.record, fault.what());
+    const std::size_t above = at.run < 0 ? 0 : before[static_cast<std::size_t>(at.run)];
+    tellFault(fileName, above + at.place.line, at.place.record, fault.what());
+    whole = false;
   }
-  showLoaded();
+  screens_.auxSpillways.setCount(context_.state.numAuxSpillways);
+  return whole;
 }
 
 void ControlFiles::ReadSpillwayRun(const std::string& runText, int spillway) {
@@ -278,7 +318,6 @@ void ControlFiles::tellFault(const std::string& file, std::size_t line, std::str
 
 // The screens that are on show derive anew what depends on the values; the front one stays in front.
 void ControlFiles::showLoaded() {
-  screens_.auxSpillways.setCount(context_.state.numAuxSpillways);
   context_.state.curAuxSpillway = 0;
   screens_.auxSpillwayProfile.refill();
   const std::vector<Screen*> shown = context_.host.shown();

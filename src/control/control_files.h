@@ -62,9 +62,12 @@ class ControlFiles {
   std::string outputDate(const std::string& fileName);
   std::vector<int> builtRuns() const;
   std::string wholeText() const;
-  void parse(const std::string& fileName, const FirstLines& before);
-  void tellFault(const std::string& file, std::size_t line, std::string_view record, const std::string& what);
+  bool isInProject(const std::string& fileName);
+  Status writeCompanion(const std::string& fileName, const std::string& whole);
+  void readCompanion(const std::string& fileName, const std::string& whole);
+  bool parse(const std::string& fileName, const FirstLines& before);
   void showLoaded();
+  void tellFault(const std::string& file, std::size_t line, std::string_view record, const std::string& what);
 
   InputScreenSet& screens_;
   ScreenContext& context_;

@@ -58,7 +58,8 @@ constexpr RecordLayout inputOnly(RecordLayout layout) {
   return layout;
 }
 
-inline constexpr auto kTableEndRecord = record("ENDTABLE", kTableEnd, "End of a table", "behind the rows of each table");
+inline constexpr auto kTableEndRecord =
+    record("ENDTABLE", kTableEnd, "End of a table", "behind the rows of each table");
 inline constexpr auto kRunEndRecord = record("ENDRUN", kRunEnd, "End of a run", "last record of each run");
 
 // A reach of an auxiliary spillway, in the main run and in the spillway's own.

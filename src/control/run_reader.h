@@ -12,7 +12,7 @@ namespace kestra {
 
 // The line that is being taken in, for who tells of a fault there.
 struct ReadPlace {
-  std::size_t line = 0;  // in the text that is read, from 1
+  std::size_t line = 0;     // in the text that is read, from 1
   std::string_view record;  // the keyword of its record
 };
 

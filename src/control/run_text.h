@@ -63,8 +63,8 @@ struct RowRule {
   int most = 1 << 20;
 };
 
-// The rows of a spillway's reaches that have a beginning, as the record last written has them, and the end of the table.
-// With the stability analysed the root depth is blank.
+// The rows of a spillway's reaches that have a beginning, as the record last written has them, and the end of the
+// table. With the stability analysed the root depth is blank.
 void writeReaches(RunText& out, const AuxProfile& profile, bool stability);
 
 // The rows of the record last written, from the table that its layout names, and the end of the table.

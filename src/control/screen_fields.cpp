@@ -12,19 +12,14 @@
 namespace kestra {
 namespace {
 
-struct StoredField {
-  std::string_view control;
-  std::string AuxProfile::*text;
-};
-
 constexpr std::array<StoredField, 7> kStored = {
-    {{"frmAuxSpillwayProfile.txtSide", &AuxProfile::txtSide},
-     {"frmAuxSpillwayProfile.txtBottom", &AuxProfile::txtBottom},
-     {"frmAuxSpillwayProfile.txtElevation", &AuxProfile::txtElevation},
-     {"frmAuxSpillwayProfile.txtTopsoil", &AuxProfile::txtTopsoil},
-     {"frmAuxSpillwayProfile.txtEnd", &AuxProfile::txtEnd},
-     {"frmAuxSpillwayProfile.txtBreachDepth", &AuxProfile::txtBreachDepth},
-     {"frmAuxSpillwayProfile.txtBarrier", &AuxProfile::txtBarrier}}};
+    {{"frmAuxSpillwayProfile.txtSide", "txtSide", &AuxProfile::txtSide},
+     {"frmAuxSpillwayProfile.txtBottom", "txtBottom", &AuxProfile::txtBottom},
+     {"frmAuxSpillwayProfile.txtElevation", "txtElevation", &AuxProfile::txtElevation},
+     {"frmAuxSpillwayProfile.txtTopsoil", "txtTopsoil", &AuxProfile::txtTopsoil},
+     {"frmAuxSpillwayProfile.txtEnd", "txtEnd", &AuxProfile::txtEnd},
+     {"frmAuxSpillwayProfile.txtBreachDepth", "txtBreachDepth", &AuxProfile::txtBreachDepth},
+     {"frmAuxSpillwayProfile.txtBarrier", "txtBarrier", &AuxProfile::txtBarrier}}};
 
 // The weir coefficient of the inlet stands in a box of its own with a hood.
 constexpr std::string_view kWeir = "frmPSConduit.txtHighStageWeirCoefficient, .txtHoodWeirInletCoefficient";
@@ -40,6 +35,10 @@ std::string indexed(std::string_view name, int spillway) {
 }
 
 }  // namespace
+
+std::span<const StoredField> storedFields() {
+  return kStored;
+}
 
 const std::string& CellLine::cell(int point) const {
   return alongColumns ? table->cell(line, point) : table->cell(point, line);

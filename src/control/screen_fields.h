@@ -1,6 +1,7 @@
 #pragma once
 
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,15 @@ struct CellLine {
   const std::string& cell(int point) const;
   void put(int point, std::string_view text) const;  // a point that the table does not have is a fault
 };
+
+// A field whose value stands in the store of its spillway.
+struct StoredField {
+  std::string_view control;  // "frmAuxSpillwayProfile.txtSide"
+  std::string_view name;     // "txtSide"
+  std::string AuxProfile::*text;
+};
+
+std::span<const StoredField> storedFields();
 
 // The controls and stores behind the fields of the catalogue, found by the names that the catalogue gives them.
 class ScreenFields {

@@ -28,20 +28,17 @@ constexpr Text kProfileStation = "frmAuxSpillwayProfile.grdProfile row 1";
 constexpr Text kProfileElevation = "frmAuxSpillwayProfile.grdProfile row 2";
 constexpr Text kStationMeaning = "station of the centre line";
 constexpr Text kElevationMeaning = "elevation of the centre line";
-constexpr FieldLayout kProfileRow[] = {
-    ten("station 1", 11, kProfileStation, "ft", kStationMeaning),
-    ten("elevation 1", 21, kProfileElevation, "ft", kElevationMeaning),
-    ten("station 2", 31, kProfileStation, "ft", kStationMeaning),
-    ten("elevation 2", 41, kProfileElevation, "ft", kElevationMeaning),
-    ten("station 3", 51, kProfileStation, "ft", kStationMeaning),
-    freeField("elevation 3", 61, 10, kProfileElevation, "ft", kElevationMeaning)};
+constexpr FieldLayout kProfileRow[] = {ten("station 1", 11, kProfileStation, "ft", kStationMeaning),
+                                       ten("elevation 1", 21, kProfileElevation, "ft", kElevationMeaning),
+                                       ten("station 2", 31, kProfileStation, "ft", kStationMeaning),
+                                       ten("elevation 2", 41, kProfileElevation, "ft", kElevationMeaning),
+                                       ten("station 3", 51, kProfileStation, "ft", kStationMeaning),
+                                       freeField("elevation 3", 61, 10, kProfileElevation, "ft", kElevationMeaning)};
 
-constexpr FieldLayout kSurface[] = {
-    kElement,
-    freeField("end of channel", 21, 10, "frmAuxSpillwayProfile.txtEnd", "ft", "end of the constructed exit channel")};
+constexpr FieldLayout kSurface[] = {kElement, freeField("end of channel", 21, 10, "frmAuxSpillwayProfile.txtEnd", "ft",
+                                                        "end of the constructed exit channel")};
 
-constexpr FieldLayout kData[] = {kElement,
-                                 blank(21, 20),
+constexpr FieldLayout kData[] = {kElement, blank(21, 20),
                                  ten("side slope", 41, "frmAuxSpillwayProfile.txtSide", "H/V", "side slope ratio")};
 
 constexpr FieldLayout kWidth[] = {
@@ -133,8 +130,7 @@ constexpr RecordLayout kRecords[] = {
     record("ASMATERIAL", "ASMATERIAL", "Fills and materials", kAlways, kFills, TableLayout{kMaterialRow}),
     record("ASCOORD", "ASCOORD", "Upper boundary of a material", "integrity analysis, once a material", kBoundary,
            TableLayout{kBoundaryRow}),
-    record("ORLEN", "ORLEN", "Threshold and rate equations", "integrity analysis with the ORLEN equations",
-           kThreshold),
+    record("ORLEN", "ORLEN", "Threshold and rate equations", "integrity analysis with the ORLEN equations", kThreshold),
     record("GRAPHICS", "GRAPHICS", "Graph files", kAlways, kGraphics),
     record("GO,HYD", "GO,HYD", "Start of the analysis", kAlways, kGo),
     record("KESTRA", "KESTRA", "Link to the dam's run", kAlways, kLink),

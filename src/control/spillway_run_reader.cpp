@@ -135,8 +135,8 @@ class SpillwayRunReader {
     }
   }
 
-  // How many of the rows are materials of the spillway itself. With the integrity analysed each of those has a boundary;
-  // behind them stand those of the fills that have their own.
+  // How many of the rows are materials of the spillway itself. With the integrity analysed each of those has a
+  // boundary; behind them stand those of the fills that have their own.
   int countOf(const std::vector<MaterialRow>& rows, const std::array<std::string_view, 2>& fills) const {
     const int most = std::min(static_cast<int>(rows.size()), kMostMaterials);
     if (!input_.screens.auxSpillways->optQUIL(spillway_).selected()) return most;
@@ -151,9 +151,9 @@ class SpillwayRunReader {
     for (std::size_t i = 0; i < fills.size(); ++i) {
       const int own = materials_.count + 1 + static_cast<int>(i);
       profile_.materNum[i] = fills[i];
-      profile_.fill[i] = fills[i].empty()                   ? FillChoice::none
+      profile_.fill[i] = fills[i].empty()                  ? FillChoice::none
                          : fills[i] == std::to_string(own) ? FillChoice::external
-                                                            : FillChoice::inPlace;
+                                                           : FillChoice::inPlace;
     }
   }
 

@@ -13,11 +13,11 @@ struct WordChoice {
 };
 
 struct WordField {
-  std::string_view control;              // as the catalogue names the controls of the field
-  std::span<const WordChoice> written;   // the word of the first option that is selected
-  std::string_view otherwise;            // the word where none is
-  std::span<const WordChoice> read;      // the option that a word selects
-  std::string_view readOtherwise;        // the option that any other word selects; empty: none
+  std::string_view control;             // as the catalogue names the controls of the field
+  std::span<const WordChoice> written;  // the word of the first option that is selected
+  std::string_view otherwise;           // the word where none is
+  std::span<const WordChoice> read;     // the option that a word selects
+  std::string_view readOtherwise;       // the option that any other word selects; empty: none
 };
 
 // The field of these controls; null for a field that holds no such word.
