@@ -59,10 +59,12 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     topScreen.windows().FindFormToBuildItems();
   };
   for (Screen* screen : std::initializer_list<Screen*>{&topScreen, &inputWindow, &newProject, &openProject,
-                                                       &deleteProject, &output, &progress, &about, &disclaimer}) {
+                                                       &deleteProject, &about, &disclaimer}) {
     host.enter(*screen);
   }
   input.enterAll(host);
+  host.enter(output);
+  host.enter(progress);
   for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);
   host.setHistory(&history);
 }
