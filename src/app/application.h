@@ -2,8 +2,11 @@
 
 #include <string>
 
+#include "results/run_tables.h"
 #include "shell/project_guard.h"
 #include "shell/shell.h"
+#include "summary/frm_summary_fields.h"
+#include "summary/summary_store.h"
 
 namespace kestra {
 
@@ -20,6 +23,12 @@ class Application {
   ScreenHost host;
   ScreenContext context;
   Shell shell;
+  RunTables runTables;
+  SummaryStore summary;
+  frmSummaryFields summaryFields;
+
+ private:
+  void followProject();
 };
 
 }  // namespace kestra
