@@ -65,6 +65,7 @@ void Projects::enter(const std::string& directory, const std::string& frameTitle
   top_.windows().LoadOrUnload();
   top_.UpdateRecentProjects(directory);
   state.bExiting = false;
+  if (onChanged) onChanged();
 }
 
 Opening Projects::open(const std::string& directory, const std::string& notAProject) {
@@ -100,6 +101,7 @@ void Projects::leave() {
   closeWindows();
   release();
   top_.setTitle("Kestra B");
+  if (onChanged) onChanged();
 }
 
 void Projects::release() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -36,6 +37,8 @@ class Projects {
   bool openFor(const std::string& path);
   void leave();    // closes the project's windows: no project is open
   void release();  // lets other programs have it
+
+  std::function<void()> onChanged;  // another project is open now, or none
 
   bool isOpen(const std::string& directory) const;    // whatever links lead there
   bool isWithin(const std::string& directory) const;  // the open project is that directory, or lies in it
