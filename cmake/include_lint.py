@@ -25,7 +25,7 @@ CODE_ROOTS = MODULE_ROOTS + ("tests", "fuzz", "bench")
 # Who may include the headers of a library, by how they begin: modules, or None for everybody.
 LIBRARIES = {
     "fmt/": None,
-    "nlohmann/": {"automation", "cli", "desktop"},
+    "nlohmann/": {"automation", "cli", "control", "desktop"},
     "CLI/": {"cli"},
     "Q": {"render", "desktop"},
 }

@@ -1,10 +1,10 @@
 #include "automation/variables.h"
 
-#include <algorithm>
 #include <functional>
 #include <map>
 
 #include "automation/aux_values.h"
+#include "automation/summary_values.h"
 #include "base/numbers.h"
 
 namespace kestra {
@@ -31,19 +31,13 @@ Reader fromState(Member member) {
   return [member](const Application& application) -> Json { return application.state.*member; };
 }
 
-// Titles by field and level; a level that has fewer fields has empty titles behind them.
-Json titlesByIndex(const Application& application) {
-  const auto& [dam, instance] = application.shell.catalogues.fieldTitles;
-  Json titles = Json::array();
-  for (std::size_t i = 0; i < std::max(dam.size(), instance.size()); ++i) {
-    titles.push_back(Json::array({i < dam.size() ? dam[i] : "", i < instance.size() ? instance[i] : ""}));
-  }
-  return titles;
+template <class Member>
+Reader fromRun(Member member) {
+  return [member](const Application& application) -> Json { return application.runTables.*member; };
 }
 
-Json titleCounts(const Application& application) {
-  const auto& titles = application.shell.catalogues.fieldTitles;
-  return {titles[0].size(), titles[1].size()};
+Reader fromSummary(Json (*describe)(const SummaryStore&)) {
+  return [describe](const Application& application) { return describe(application.summary); };
 }
 
 const std::map<std::string, Reader>& readers() {
@@ -65,13 +59,29 @@ const std::map<std::string, Reader>& readers() {
       {"totalInstances", fromState(&State::totalInstances)},
       {"lhsSeed", fromState(&State::lhsSeed)},
       {"bRandomSample", fromState(&State::bRandomSample)},
+      {"bRandomPairing", fromState(&State::bRandomPairing)},
+      {"controlText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.controlText; }},
+      {"workText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.workText; }},
+      {"hydrographText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.hydrographText; }},
+      {"auxRunText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.auxRunText; }},
       {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
       {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
       {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},
       {"ComboList", [](const Application& a) -> Json { return a.shell.lines.ComboList; }},
       {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
-      {"fieldTitles", titlesByIndex},
-      {"fieldCount", titleCounts},
+      {"fieldTitles", [](const Application& a) { return describeFieldTitles(a.shell.catalogues); }},
+      {"fieldCount", [](const Application& a) { return describeFieldCount(a.shell.catalogues); }},
+      {"digestFields", fromRun(&RunTables::digestFields)},
+      {"spillwayName", fromRun(&RunTables::spillwayName)},
+      {"spillwayAnalysisFlag", fromRun(&RunTables::spillwayAnalysisFlag)},
+      {"spillwayRatingFlag", fromRun(&RunTables::spillwayRatingFlag)},
+      {"entryCount", [](const Application& a) -> Json { return a.summary.entries().size(); }},
+      {"entryNames", [](const Application& a) -> Json { return a.summary.entryNames(); }},
+      {"entryValues", fromSummary(describeEntryValues)},
+      {"selectedCount", fromSummary(describeSelectedCount)},
+      {"selectedFields", fromSummary(describeSelectedFields)},
+      {"fieldSelected", fromSummary(describeFieldSelected)},
+      {"summaryOrder", [](const Application& a) -> Json { return a.summary.summaryOrder(); }},
       {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
       {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
       {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},

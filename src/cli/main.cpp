@@ -1,35 +1,26 @@
 #include <csignal>
 #include <iostream>
 
-#include "app/application.h"
 #include "automation/driver.h"
 #include "base/paths.h"
-#include "cli/native_desk.h"
-#include "cli/options.h"
-#include "platform/native/terminal_dialogs.h"
-#include "platform/native/terminal_message_boxes.h"
+#include "cli/file_work.h"
+#include "cli/terminal_session.h"
 
 namespace {
 
 using namespace kestra;
 
-constexpr int kFailed = 1;
-
 // Makes a project by the screen that a person would use.
 int makeProject(const CliOptions& options) {
-  NativeDesk desk(options);
-  TerminalMessageBoxes boxes(std::cerr, options.yes);
-  TerminalDialogs dialogs(std::cerr);
-  TerminalBeeper beeper;
-  Application application(desk.ports(boxes, dialogs, beeper), desk.applicationDirectory());
-  Shell& shell = application.shell;
-  const std::string path = absolutePath(options.directory, desk.files().currentDirectory());
+  TerminalSession session(options);
+  Shell& shell = session.application.shell;
+  const std::string path = absolutePath(options.directory, session.desk.files().currentDirectory());
   shell.startUp("");
   shell.topScreen.mnuNewProject.click();
   shell.newProject.dirList.setPath(std::string(directoryOf(path)));
   shell.newProject.txtEnterName.setText(std::string(ParsePathName(path)));
   shell.newProject.cmdOK.click();
-  const bool made = application.state.projectDir == path;
+  const bool made = session.application.state.projectDir == path;
   shell.end();
   if (!made) return kFailed;
   std::cout << path << '\n';
@@ -52,7 +43,17 @@ int run(int argc, char** argv) {
   int exitCode = 0;
   const auto options = parseCommandLine(argc, argv, std::cout, std::cerr, exitCode);
   if (!options) return exitCode;
-  return options->command == CliCommand::newProject ? makeProject(*options) : drive(*options);
+  switch (options->command) {
+    case CliCommand::newProject:
+      return makeProject(*options);
+    case CliCommand::build:
+      return buildFiles(*options);
+    case CliCommand::check:
+      return checkFiles(*options);
+    case CliCommand::drive:
+      break;
+  }
+  return drive(*options);
 }
 
 }  // namespace

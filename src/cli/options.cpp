@@ -14,6 +14,8 @@ struct Grammar {
 
   CLI::App app{"Overtopping and breach of embankment dams, without a window", "kestra"};
   CLI::App* newProject = app.add_subcommand("new", "make a project directory");
+  CLI::App* build = app.add_subcommand("build", "build control files: run their analyses");
+  CLI::App* check = app.add_subcommand("check", "check the integrity of control files");
   CLI::App* drive = app.add_subcommand("drive", "carry out requests, one JSON object a line, from standard input");
   CLI::App* help = app.add_subcommand("help", "tell about the commands");
   std::string helpTopic;
@@ -22,7 +24,7 @@ struct Grammar {
 
 Grammar::Grammar(CliOptions& options) {
   app.require_subcommand(0, 1);
-  for (CLI::App* command : {newProject, drive, help}) {
+  for (CLI::App* command : {newProject, build, check, drive, help}) {
     command->fallthrough();
     command->footer("Options of every command: --app-dir DIR, --settings FILE");
   }
@@ -31,6 +33,10 @@ Grammar::Grammar(CliOptions& options) {
   app.add_option("--settings", options.settingsFile, "settings file")->type_name("FILE");
   app.add_flag("--yes", options.yes, "answer questions with Yes");
   newProject->add_option("DIR", options.directory, "the directory to make")->required()->type_name("");
+  for (CLI::App* command : {build, check}) {
+    command->add_option("FILE", options.files, "control files")->required()->type_name("");
+  }
+  build->add_option("--project", options.project, "project directory; else that of the first file")->type_name("DIR");
   drive->add_option("CONTROL_FILE", options.controlFile, "the control file to open")->type_name("");
   help->add_option("COMMAND", helpTopic, "the command to tell about")->type_name("");
 }
@@ -84,11 +90,15 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
     exitCode = tellHelp(grammar, out, err);
     return std::nullopt;
   }
-  if (grammar.newProject->parsed()) {
-    options.command = CliCommand::newProject;
+  const std::pair<const CLI::App*, CliCommand> commands[] = {{grammar.newProject, CliCommand::newProject},
+                                                             {grammar.build, CliCommand::build},
+                                                             {grammar.check, CliCommand::check},
+                                                             {grammar.drive, CliCommand::drive}};
+  for (const auto& [word, command] : commands) {
+    if (!word->parsed()) continue;
+    options.command = command;
     return options;
   }
-  if (grammar.drive->parsed()) return options;
   err << generalHelp();
   exitCode = kWrongUsage;
   return std::nullopt;

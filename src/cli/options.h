@@ -3,17 +3,20 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kestra {
 
-enum class CliCommand { newProject, drive };
+enum class CliCommand { newProject, build, check, drive };
 
 struct CliOptions {
   CliCommand command = CliCommand::drive;
-  std::string directory;     // new: of the project
-  std::string controlFile;   // drive: as it stands on the command line; empty: none
-  std::string appDirectory;  // empty: that of the program
-  std::string settingsFile;  // empty: the user's
+  std::string directory;           // new: of the project
+  std::string controlFile;         // drive: as it stands on the command line; empty: none
+  std::vector<std::string> files;  // build, check: at least one
+  std::string project;             // build: its directory; empty: that of the first file
+  std::string appDirectory;        // empty: that of the program
+  std::string settingsFile;        // empty: the user's
   bool yes = false;
 };
 

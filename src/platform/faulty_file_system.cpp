@@ -89,7 +89,16 @@ Status FaultyFileSystem::makeDirectory(const std::string& path) {
 
 Result<std::unique_ptr<OutputFile>> FaultyFileSystem::createNew(const std::string& path) {
   if (const Failure* f = fault("createNew", path)) return *f;
-  Result<std::unique_ptr<OutputFile>> file = inner_.createNew(path);
+  return watched(inner_.createNew(path), path);
+}
+
+Result<std::unique_ptr<OutputFile>> FaultyFileSystem::append(const std::string& path) {
+  if (const Failure* f = fault("append", path)) return *f;
+  return watched(inner_.append(path), path);
+}
+
+Result<std::unique_ptr<OutputFile>> FaultyFileSystem::watched(Result<std::unique_ptr<OutputFile>> file,
+                                                              const std::string& path) {
   if (!file) return file.failure();
   return std::unique_ptr<OutputFile>(std::make_unique<Output>(*this, std::move(file).value(), path));
 }

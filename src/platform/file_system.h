@@ -55,7 +55,9 @@ class FileSystem {
 
   virtual Status makeDirectory(const std::string& path) = 0;  // one level; exists when something stands there
   virtual Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) = 0;  // exists when there is one
-  virtual Status rename(const std::string& from, const std::string& to) = 0;           // replaces a file at `to`
+  // The file that stands there, to write behind its end, or a new one; wrongType for a directory or a device.
+  virtual Result<std::unique_ptr<OutputFile>> append(const std::string& path) = 0;
+  virtual Status rename(const std::string& from, const std::string& to) = 0;  // replaces a file at `to`
   virtual Status syncDirectory(const std::string& path) = 0;    // makes creations and renames in it durable
   virtual Status removeFile(const std::string& path) = 0;       // a file, or a link itself
   virtual Status removeDirectory(const std::string& path) = 0;  // an empty one

@@ -148,6 +148,21 @@ Result<std::unique_ptr<OutputFile>> MemoryFileSystem::createNew(const std::strin
   return std::unique_ptr<OutputFile>(std::make_unique<Output>(*this, node, place.value().path));
 }
 
+Result<std::unique_ptr<OutputFile>> MemoryFileSystem::append(const std::string& path) {
+  note("append", path);
+  const Result<Place> place = walk(root_, current_, path, true);
+  if (!place) return place.failure();
+  NodePtr node = place.value().node;
+  if (!node) {
+    if (!place.value().directory->writable) return denied(path);
+    node = makeNode(Type::file, clockNs);
+    place.value().directory->children[place.value().name] = node;
+  }
+  if (node->type == Type::directory) return aDirectory(path);
+  if (!node->writable) return denied(path);
+  return std::unique_ptr<OutputFile>(std::make_unique<Output>(*this, node, place.value().path));
+}
+
 Status MemoryFileSystem::rename(const std::string& from, const std::string& to) {
   note("rename", from, to);
   const Result<Place> source = find(from, false);

@@ -23,6 +23,7 @@ class MemoryFileSystem : public FileSystem {
   Result<std::string> canonical(const std::string& path) override;
   Status makeDirectory(const std::string& path) override;
   Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) override;
+  Result<std::unique_ptr<OutputFile>> append(const std::string& path) override;
   Status rename(const std::string& from, const std::string& to) override;
   Status syncDirectory(const std::string& path) override;
   Status removeFile(const std::string& path) override;

@@ -18,6 +18,7 @@ class ProjectGuard : public FileSystem {
   Result<std::string> canonical(const std::string& path) override { return inner_.canonical(path); }
   Status makeDirectory(const std::string& path) override;
   Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) override;
+  Result<std::unique_ptr<OutputFile>> append(const std::string& path) override;
   Status rename(const std::string& from, const std::string& to) override;
   Status syncDirectory(const std::string& path) override { return inner_.syncDirectory(path); }
   Status removeFile(const std::string& path) override;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "control/control_files.h"
 #include "controls/undo_history.h"
 #include "graphics/line_settings.h"
 #include "screens/input_screen_set.h"
@@ -11,6 +12,7 @@
 #include "shell/frm_top_screen.h"
 #include "shell/project_screens.h"
 #include "shell/projects.h"
+#include "shell/window_commands.h"
 #include "summary/summary_fields.h"
 
 namespace kestra {
@@ -23,11 +25,16 @@ class Shell {
   frmTopScreen topScreen;
   frmKestra inputWindow;
   InputScreenSet input;
+  ControlFiles controlFiles;
   UndoHistory history;  // of the input screens
   Projects projects;
   frmNewProject newProject;
   frmOpenProject openProject;
   frmDeleteProject deleteProject;
+  frmOutput output;
+  frmProgress progress;
+  FileDesk fileDesk;
+  WindowCommands commands;  // of the input window
   TextScreen about;
   TextScreen disclaimer;
 

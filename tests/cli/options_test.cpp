@@ -38,6 +38,8 @@ constexpr const char* kGeneral =
     "\n"
     "Subcommands:\n"
     "  new                         make a project directory\n"
+    "  build                       build control files: run their analyses\n"
+    "  check                       check the integrity of control files\n"
     "  drive                       carry out requests, one JSON object a line, from standard input\n"
     "  help                        tell about the commands\n"
     "\n";
@@ -50,6 +52,18 @@ constexpr const char* kNew =
     "\n"
     "Options:\n"
     "  -h,--help                   Print this help message and exit\n"
+    "\n"
+    "Options of every command: --app-dir DIR, --settings FILE\n";
+constexpr const char* kBuild =
+    "build control files: run their analyses\n"
+    "Usage: kestra build [OPTIONS] FILE...\n"
+    "\n"
+    "Positionals:\n"
+    "  FILE ... REQUIRED           control files\n"
+    "\n"
+    "Options:\n"
+    "  -h,--help                   Print this help message and exit\n"
+    "  --project DIR               project directory; else that of the first file\n"
     "\n"
     "Options of every command: --app-dir DIR, --settings FILE\n";
 constexpr const char* kDrive =
@@ -83,6 +97,7 @@ TEST(CommandLine, tellsTheVersionAndHelpAndWhatIsWrong) {
       {{"new", "--help"}, 0, kNew, ""},
       {{"new", "a", "-h"}, 0, kNew, ""},
       {{"help", "drive"}, 0, kDrive, ""},
+      {{"help", "build"}, 0, kBuild, ""},
       {{"--settings", "s", "help", "drive"}, 0, kDrive, ""},
       {{"drive", "--help"}, 0, kDrive, ""},
       {{"help", "dance"}, 2, "", "kestra: no command named dance\n"},
@@ -93,6 +108,10 @@ TEST(CommandLine, tellsTheVersionAndHelpAndWhatIsWrong) {
       {{"new"}, 2, "", wrong("DIR is required")},
       {{"new", "a", "b"}, 2, "", wrong("The following argument was not expected: b")},
       {{"new", "-a"}, 2, "", wrong("DIR is required")},
+      {{"build"}, 2, "", wrong("FILE is required")},
+      {{"build", "--project", "p"}, 2, "", wrong("FILE is required")},
+      {{"check"}, 2, "", wrong("FILE is required")},
+      {{"check", "a", "--project", "p"}, 2, "", wrong("The following argument was not expected: --project")},
       {{"drive", "a", "b"}, 2, "", wrong("The following argument was not expected: b")},
       {{"drive", "--nothing"}, 2, "", wrong("The following argument was not expected: --nothing")},
       {{"drive", "--app-dir"}, 2, "", wrong("--app-dir: 1 required DIR missing")},
@@ -119,6 +138,28 @@ TEST(CommandLine, takesOptionsBeforeAndBehindTheCommand) {
     EXPECT_EQ(parsed.options->settingsFile, "/s");
     EXPECT_TRUE(parsed.options->yes);
     EXPECT_EQ(parsed.out + parsed.err, "");
+  }
+}
+
+TEST(CommandLine, takesOneFileOrMoreToBuildAndToCheck) {
+  struct Row {
+    std::vector<const char*> words;
+    CliCommand command;
+    std::vector<std::string> files;
+    std::string project;
+  };
+  const Row table[] = {{{"build", "a.KSC"}, CliCommand::build, {"a.KSC"}, ""},
+                       {{"build", "a", "b c", "a"}, CliCommand::build, {"a", "b c", "a"}, ""},
+                       {{"build", "--project", "p", "a", "b"}, CliCommand::build, {"a", "b"}, "p"},
+                       {{"--yes", "build", "a", "--project", "p"}, CliCommand::build, {"a"}, "p"},
+                       {{"check", "a", "b"}, CliCommand::check, {"a", "b"}, ""},
+                       {{"check", "--", "-a"}, CliCommand::check, {"-a"}, ""}};
+  for (const Row& row : table) {
+    const Parsed parsed = parse(row.words);
+    ASSERT_TRUE(parsed.options) << parsed.err;
+    EXPECT_EQ(parsed.options->command, row.command);
+    EXPECT_EQ(parsed.options->files, row.files);
+    EXPECT_EQ(parsed.options->project, row.project);
   }
 }
 

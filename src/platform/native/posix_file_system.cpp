@@ -181,6 +181,16 @@ Result<std::unique_ptr<OutputFile>> PosixFileSystem::createNew(const std::string
   return std::unique_ptr<OutputFile>(std::make_unique<PosixOutputFile>(std::move(file).value(), path));
 }
 
+Result<std::unique_ptr<OutputFile>> PosixFileSystem::append(const std::string& path) {
+  // Without waiting for the other end, should it be a pipe.
+  Result<Descriptor> file = openBy(path, O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK);
+  if (!file) return file.failure();
+  struct stat found = {};
+  if (::fstat(file.value().number(), &found) != 0) return systemFailure(path);
+  if (!S_ISREG(found.st_mode)) return Failure{FailureKind::wrongType, path, "Not a regular file"};
+  return std::unique_ptr<OutputFile>(std::make_unique<PosixOutputFile>(std::move(file).value(), path));
+}
+
 Status PosixFileSystem::rename(const std::string& from, const std::string& to) {
   if (Status usable = checkPath(to); !usable) return usable;
   return attempt(from, [&] { return ::rename(from.c_str(), to.c_str()); });

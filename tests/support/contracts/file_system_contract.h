@@ -151,6 +151,24 @@ TYPED_TEST_P(FileSystemContract, createsOnlyWhatIsNew) {
   EXPECT_EQ(this->listing(""), "a:f astray:l d:d");
 }
 
+TYPED_TEST_P(FileSystemContract, appendsToWhatStandsThereOrBegins) {
+  this->put("old", "12");
+  this->putDirectory("d");
+  this->putLink("link", "old");
+  FileSystem& files = this->scene.files;
+  for (const char* name : {"old", "link", "fresh", "fresh"}) {
+    auto opened = files.append(this->at(name));
+    ASSERT_TRUE(succeeded(opened)) << name;
+    const auto output = std::move(opened).value();
+    EXPECT_TRUE(succeeded(output->write("34")));
+    EXPECT_TRUE(succeeded(output->close()));
+  }
+  EXPECT_EQ(this->contentOf("old"), "123434");
+  EXPECT_EQ(this->contentOf("fresh"), "3434");
+  EXPECT_TRUE(failed(files.append(this->at("d")), FailureKind::wrongType, "Is a directory"));
+  EXPECT_TRUE(failed(files.append(this->at("no/below")), FailureKind::notFound, "No such file or directory"));
+}
+
 TYPED_TEST_P(FileSystemContract, readsNoMoreThanTheLimit) {
   this->put("ten", "0123456789");
   FileSystem& files = this->scene.files;
@@ -375,10 +393,10 @@ TYPED_TEST_P(FileSystemContract, makesTheDirectoriesThatAreMissing) {
 REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, readsBackAnyBytes, takesAnyNameThatTheSystemAllows,
                             worksOnPathsBeyond260Characters, tellsWhatIsNotThereFromEveryOtherFailure,
                             refusesWhatIsOfTheWrongType, refusesNamesThatNoFileCanHave, createsOnlyWhatIsNew,
-                            readsNoMoreThanTheLimit, tellsTypeSizeAndWhetherAFileMayBeWritten,
-                            listsSortedByBytesAndDoesNotFollowLinks, resolvesLinksAndDots, renamesOverAFile,
-                            removesFilesEmptyDirectoriesAndLinksThemselves, countsRelativePathsFromTheCurrentDirectory,
-                            givesALockToOneAtATime, hasTheRootAmongItsRoots,
+                            appendsToWhatStandsThereOrBegins, readsNoMoreThanTheLimit,
+                            tellsTypeSizeAndWhetherAFileMayBeWritten, listsSortedByBytesAndDoesNotFollowLinks,
+                            resolvesLinksAndDots, renamesOverAFile, removesFilesEmptyDirectoriesAndLinksThemselves,
+                            countsRelativePathsFromTheCurrentDirectory, givesALockToOneAtATime, hasTheRootAmongItsRoots,
                             writesAWholeFileOverAnOldOneAndKeepsItsPermissions, writesAWholeFileThroughLinks,
                             writesAWholeFileWhereStraysOfAKilledProgramAreLeft,
                             writesNoWholeFileOverADirectoryOrIntoNowhere, removesATreeAndNothingOutsideOfIt,

@@ -1,0 +1,28 @@
+#include "app/run_summary.h"
+
+#include "base/runtime_fault.h"
+
+namespace kestra {
+
+int RunSummary::LoadDigestEntry(int fieldOffset, const std::string& digestPath, const std::string& entryName) {
+  return static_cast<int>(store_.LoadDigestEntry(fieldOffset, digestPath, entryName));
+}
+
+void RunSummary::SaveSummaryStore(const std::string& path) {
+  const Status saved = store_.SaveSummaryStore(path);
+  if (!saved) throw RuntimeFault(saved.failure().path + ": " + saved.failure().reason);
+}
+
+void RunSummary::ModifyTable(int entryIndex) {
+  if (onModifyTable) onModifyTable(entryIndex);
+}
+
+void RunSummary::refreshTable() {
+  if (onRefreshTable) onRefreshTable();
+}
+
+void RunSummary::refreshOpenFiles() {
+  if (onRefreshOpenFiles) onRefreshOpenFiles();
+}
+
+}  // namespace kestra
