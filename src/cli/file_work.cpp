@@ -13,10 +13,15 @@ std::vector<std::string> absolutePaths(const std::vector<std::string>& files, co
   return paths;
 }
 
-bool buildFile(Shell& shell, const std::string& path) {
-  std::cerr << path << ": building\n" << std::flush;
+bool buildFile(Application& application, const std::string& path) {
+  Shell& shell = application.shell;
+  const auto tell = [&path](const std::string& message) { std::cerr << path << ": " << message << '\n' << std::flush; };
+  application.programs.onStarted = tell;
+  application.programs.onTold = tell;
+  tell("building");
   const bool built = shell.commands.file.open(path) && shell.commands.build.build();
-  std::cerr << path << (built ? ": built\n" : ": not built\n") << std::flush;
+  tell(built ? "built" : "not built");
+  application.programs.onStarted = application.programs.onTold = nullptr;
   return built;
 }
 
@@ -46,7 +51,7 @@ int buildFiles(const CliOptions& options) {
   const bool opened = shell.projects.open(project) == Opening::opened;
   bool allBuilt = opened && !session.application.state.projectReadOnly;
   if (allBuilt) {
-    for (const std::string& path : paths) allBuilt = buildFile(shell, path) && allBuilt;
+    for (const std::string& path : paths) allBuilt = buildFile(session.application, path) && allBuilt;
   }
   shell.end();
   return allBuilt ? 0 : kFailed;

@@ -4,6 +4,7 @@
 #include "automation/driver.h"
 #include "base/paths.h"
 #include "cli/file_work.h"
+#include "cli/summary_text.h"
 #include "cli/terminal_session.h"
 
 namespace {
@@ -50,6 +51,8 @@ int run(int argc, char** argv) {
       return buildFiles(*options);
     case CliCommand::check:
       return checkFiles(*options);
+    case CliCommand::summary:
+      return printSummary(*options);
     case CliCommand::drive:
       break;
   }

@@ -16,6 +16,7 @@ struct Grammar {
   CLI::App* newProject = app.add_subcommand("new", "make a project directory");
   CLI::App* build = app.add_subcommand("build", "build control files: run their analyses");
   CLI::App* check = app.add_subcommand("check", "check the integrity of control files");
+  CLI::App* summary = app.add_subcommand("summary", "print the results of a project's runs");
   CLI::App* drive = app.add_subcommand("drive", "carry out requests, one JSON object a line, from standard input");
   CLI::App* help = app.add_subcommand("help", "tell about the commands");
   std::string helpTopic;
@@ -24,7 +25,7 @@ struct Grammar {
 
 Grammar::Grammar(CliOptions& options) {
   app.require_subcommand(0, 1);
-  for (CLI::App* command : {newProject, build, check, drive, help}) {
+  for (CLI::App* command : {newProject, build, check, summary, drive, help}) {
     command->fallthrough();
     command->footer("Options of every command: --app-dir DIR, --settings FILE");
   }
@@ -37,6 +38,10 @@ Grammar::Grammar(CliOptions& options) {
     command->add_option("FILE", options.files, "control files")->required()->type_name("");
   }
   build->add_option("--project", options.project, "project directory; else that of the first file")->type_name("DIR");
+  summary->add_option("--project", options.project, "project directory; else the current one")->type_name("DIR");
+  summary->add_option("--format", options.format, "form of the summary: text")
+      ->check(CLI::IsMember({"text"}))
+      ->type_name("FORM");
   drive->add_option("CONTROL_FILE", options.controlFile, "the control file to open")->type_name("");
   help->add_option("COMMAND", helpTopic, "the command to tell about")->type_name("");
 }
@@ -93,6 +98,7 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
   const std::pair<const CLI::App*, CliCommand> commands[] = {{grammar.newProject, CliCommand::newProject},
                                                              {grammar.build, CliCommand::build},
                                                              {grammar.check, CliCommand::check},
+                                                             {grammar.summary, CliCommand::summary},
                                                              {grammar.drive, CliCommand::drive}};
   for (const auto& [word, command] : commands) {
     if (!word->parsed()) continue;

@@ -7,14 +7,15 @@
 
 namespace kestra {
 
-enum class CliCommand { newProject, build, check, drive };
+enum class CliCommand { newProject, build, check, summary, drive };
 
 struct CliOptions {
   CliCommand command = CliCommand::drive;
   std::string directory;           // new: of the project
   std::string controlFile;         // drive: as it stands on the command line; empty: none
   std::vector<std::string> files;  // build, check: at least one
-  std::string project;             // build: its directory; empty: that of the first file
+  std::string project;             // build, summary: its directory; empty: that of the first file, or here
+  std::string format = "text";     // summary
   std::string appDirectory;        // empty: that of the program
   std::string settingsFile;        // empty: the user's
   bool yes = false;

@@ -46,7 +46,7 @@ bool BuildPipeline::BuildMyFiles(bool showProgress) {
     built = true;
   } catch (const std::exception& fault) {
     whyNot_ = fault.what();
-    if (context_.progress.visible()) context_.progress.lblWhat.setCaption(whyNot_);
+    if (!whyNot_.empty()) context_.programs.tell(whyNot_);
   }
   context_.silent = false;
   return built;
@@ -84,8 +84,8 @@ void BuildPipeline::build() {
 
 bool BuildPipeline::chooseFile() {
   using enum BoxButton;
-  const MessageBox question = {"Build", "No file is opened or created, choose a file to build?", BoxIcon::question,
-                               {yes, no, cancel}};
+  const MessageBox question = {
+      "Build", "No file is opened or created, choose a file to build?", BoxIcon::question, {yes, no, cancel}};
   if (context_.ports.boxes.show(question) != yes) return false;
   FileDialog dialog;
   dialog.title = "Build File";

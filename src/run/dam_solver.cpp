@@ -22,9 +22,9 @@ namespace kestra {
 namespace {
 
 constexpr int kMostAttempts = 10;
-constexpr double kSettled = 0.01;         // change of the peak pool, of its head over the lowest crest
-constexpr double kNoHead = 0.001;         // ft
-constexpr double kFirstMoment = 100.0;    // hours, of a drawdown
+constexpr double kSettled = 0.01;           // change of the peak pool, of its head over the lowest crest
+constexpr double kNoHead = 0.001;           // ft
+constexpr double kFirstMoment = 100.0;      // hours, of a drawdown
 constexpr std::size_t kPrincipalCrest = 1;  // of the digest, from 0; the auxiliary spillways' follow
 constexpr std::array<const char*, 3> kResults = {".OUT", ".BRE", ".HCT"};
 

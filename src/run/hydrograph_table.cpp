@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kFieldWidth = 10;
 constexpr std::size_t kFlowsInRow = 5;
-constexpr double kDefaultStep = 1.0;    // hours
+constexpr double kDefaultStep = 1.0;     // hours
 constexpr double kSmallestStep = 0.001;  // hours
 // More points than a table takes and fewer than the counter of the resampling does; it then makes the step greater.
 constexpr double kTooManyPoints = 20000;

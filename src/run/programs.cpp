@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::int64_t kNsPerSecond = 1'000'000'000;
 const std::string kEnding = "\r\n-- ";  // what a program printed need not end a line
-constexpr int kSignalled = 128;  // as a shell tells it
+constexpr int kSignalled = 128;         // as a shell tells it
 
 bool isFile(FileSystem& files, const std::string& path) {
   const auto status = files.status(path);
@@ -107,13 +107,13 @@ int Programs::start(const ProcessRequest& request, const std::string& subject) {
   if (state_.projectReadOnly) throw RuntimeFault("The project is open in another program.");
   const std::string what = nameOf(request) + " " + std::string(ParsePathName(subject));
   log(fmt::format("-- {} {}", nameOf(request), subject));
+  if (onStarted) onStarted(what);
   ProcessRequest logged = request;
   logged.outputFile = logFile_;
   logged.appendsOutput = true;
   const std::int64_t begun = ports_.clock.steadyNs();
   if (!keepGoing(what, begun)) throw RunStopped(fmt::format("Stopped before {} ran.", nameOf(request)));
-  const ProcessOutcome outcome =
-      ports_.processes.run(logged, [this, &what, begun] { return keepGoing(what, begun); });
+  const ProcessOutcome outcome = ports_.processes.run(logged, [this, &what, begun] { return keepGoing(what, begun); });
   return settle(outcome, request);
 }
 

@@ -42,8 +42,13 @@ class Programs {
   // The program of that name in the application directory, on one file.
   int run(const std::string& name, const std::string& file);
 
+  // Shows a message on frmProgress, where that is on show, and hands it to `onTold`.
+  void tell(const std::string& message);
+
   const std::string& applicationDirectory() const { return applicationDirectory_; }
 
+  // Which program starts on which file: "TorveSim.exe dam1_0.V2D".
+  std::function<void(const std::string&)> onStarted;
   // What the user has to know of a program: that it could not be started and where it was looked for, or how it failed.
   std::function<void(const std::string&)> onTold;
 
@@ -53,7 +58,6 @@ class Programs {
   int start(const ProcessRequest& request, const std::string& subject);
   bool keepGoing(const std::string& what, std::int64_t begunNs);
   int settle(const ProcessOutcome& outcome, const ProcessRequest& request);
-  void tell(const std::string& message);
   void log(const std::string& line);
 
   Ports& ports_;

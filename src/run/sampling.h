@@ -26,7 +26,8 @@ class Sampling {
                               const HydrographCheck& hydrograph, int spillwayNumber) = 0;
 };
 
-// Whether a spillway's records hold a sampling block: an LHS record and at least one more before the ENDTABLE behind it.
+// Whether a spillway's records hold a sampling block: an LHS record and at least one more before the ENDTABLE behind
+// it.
 bool holdsSamplingBlock(std::string_view records);
 
 // The one instance of a spillway without samples: its records, ENDJOB and ENDRUN last.

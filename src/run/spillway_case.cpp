@@ -118,7 +118,7 @@ class SpillwayRun {
     if (!digest(base, workDir)) return false;
     // The store is read anew after each run, and then knows what was saved.
     SummaryUpdates& summary = context_.summary;
-    const std::string name = base.substr(joinPath(context_.state.projectDir, "").size());
+    const std::string name = joinPath(ParsePathName(base_), ParsePathName(base));
     const int entry = summary.LoadDigestEntry(kInstanceFields, presentPath(files(), base + ".DIS"), name);
     summary.SaveSummaryStore(joinPath(context_.state.projectDir, "SUMMARY.IDE"));
     if (context_.state.window(static_cast<int>(WindowSlot::summaryTable))) {

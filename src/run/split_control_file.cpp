@@ -28,7 +28,8 @@ std::string_view keyOf(std::string_view line) {
 // 1 to 3; 0 for anything else.
 std::size_t spillwayNumber(std::string_view field) {
   const auto number = wholeNumber(field);
-  return number && *number >= 1 && *number <= static_cast<long long>(kSpillways) ? static_cast<std::size_t>(*number) : 0;
+  return number && *number >= 1 && *number <= static_cast<long long>(kSpillways) ? static_cast<std::size_t>(*number)
+                                                                                 : 0;
 }
 
 void noteSpillway(std::string_view line, RunTables& tables) {

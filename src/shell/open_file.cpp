@@ -1,6 +1,7 @@
 #include "shell/open_file.h"
 
 #include "base/paths.h"
+#include "base/runtime_fault.h"
 #include "base/text.h"
 #include "controls/undo_history.h"
 #include "platform/files.h"
@@ -79,8 +80,17 @@ void OpenFile::take(const std::string& path) {
   witness_.remember(path);
   desk_.window.takeFile(path);
   if (UndoHistory* history = desk_.context.host.history()) history->clear();
-  std::string job = desk_.control.texts.controlText;  // a copy: the main run stays as it was read
-  desk_.output.GenerateTopoGraph(job, desk_.control.texts.auxRunText);
+  takeJob();
+}
+
+// On a copy, so that the main run stays as it was read.
+void OpenFile::takeJob() {
+  std::string job = desk_.control.texts.controlText;
+  try {
+    desk_.output.GenerateTopoGraph(job, desk_.control.texts.auxRunText);
+  } catch (const RuntimeFault& fault) {
+    desk_.boxes().tell(kErrorTitle, desk_.state().currentFile + ": " + fault.what(), BoxIcon::warning);
+  }
 }
 
 bool OpenFile::write(const std::string& path, const std::string& title) {

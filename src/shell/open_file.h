@@ -34,6 +34,7 @@ class OpenFile {
  private:
   bool inProject(const std::string& path) const;
   void setInitialValues();
+  void takeJob();
   void becomeSaved(const std::string& path);
 
   FileDesk& desk_;

@@ -40,6 +40,7 @@ constexpr const char* kGeneral =
     "  new                         make a project directory\n"
     "  build                       build control files: run their analyses\n"
     "  check                       check the integrity of control files\n"
+    "  summary                     print the results of a project's runs\n"
     "  drive                       carry out requests, one JSON object a line, from standard input\n"
     "  help                        tell about the commands\n"
     "\n";
@@ -161,6 +162,16 @@ TEST(CommandLine, takesOneFileOrMoreToBuildAndToCheck) {
     EXPECT_EQ(parsed.options->files, row.files);
     EXPECT_EQ(parsed.options->project, row.project);
   }
+}
+
+TEST(CommandLine, takesAProjectAndAFormForTheSummary) {
+  const Parsed plain = parse({"summary"});
+  ASSERT_TRUE(plain.options) << plain.err;
+  EXPECT_EQ(plain.options->command, CliCommand::summary);
+  EXPECT_EQ(plain.options->project, "");
+  EXPECT_EQ(plain.options->format, "text");
+  EXPECT_EQ(parse({"summary", "--project", "p", "--format", "text"}).options->project, "p");
+  EXPECT_EQ(parse({"summary", "--format", "sheet"}).exitCode, 2);
 }
 
 TEST(CommandLine, leavesPathsAsTheyStand) {

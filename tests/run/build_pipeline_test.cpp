@@ -45,8 +45,7 @@ TEST_F(BuildPipelineTest, goesFromAControlFileToDigestsInstancesAndTheSummary) {
   EXPECT_EQ(text("/p/dam/dam2_0.V2D"), spillwayRun("2"));
   EXPECT_EQ(text("/p/dam.DIS").substr(0, 5), "N/A\r\n");
   EXPECT_TRUE(has("/p/dam/dam1_0.DIS"));
-  EXPECT_THAT(summary.calls,
-              ElementsAre("load", "load", "enter 0 /p/dam.DIS as dam", "save /p/SUMMARY.IDE"));
+  EXPECT_THAT(summary.calls, ElementsAre("load", "load", "enter 0 /p/dam.DIS as dam", "save /p/SUMMARY.IDE"));
   EXPECT_EQ(pipeline.whyNot(), "");
   EXPECT_THAT(takeBoxes(), IsEmpty());
   EXPECT_THAT(told, IsEmpty());
@@ -175,7 +174,8 @@ TEST_F(BuildPipelineTest, refusesANameWithoutADot) {
 }
 
 TEST_F(BuildPipelineTest, endsWithoutABoxForAFileOutsideTheProject) {
-  for (const char* path : {"/q/dam.KSC", "/p/sub/dam.KSC", "/p2/a-name-that-is-much-longer.KSC", "/dam.KSC", "dam.KSC"}) {
+  for (const char* path :
+       {"/q/dam.KSC", "/p/sub/dam.KSC", "/p2/a-name-that-is-much-longer.KSC", "/dam.KSC", "dam.KSC"}) {
     if (path[0] == '/') memory.put(path, kDam);
     memory.put("/p/dam.OUT", "old");
     state.currentFile = path;
@@ -251,8 +251,7 @@ TEST_F(BuildPipelineTest, reachesItsEndWithoutTheSolvers) {
 TEST_F(BuildPipelineTest, goesOnBehindAControlFileThatCannotBeRead) {
   state.currentFile = "/p/none.KSC";
   EXPECT_TRUE(build());
-  EXPECT_THAT(takeBoxes(),
-              ElementsAre("Error: Computation Error: /p/none.KSC: No such file or directory (critical)"));
+  EXPECT_THAT(takeBoxes(), ElementsAre("Error: Computation Error: /p/none.KSC: No such file or directory (critical)"));
 }
 
 TEST_F(BuildPipelineTest, endsWhereTheResultsDirectoryCannotBeMadeOrEmptied) {
@@ -326,8 +325,8 @@ TEST_F(BuildPipelineTest, refreshesTheWindowsWithResultsWhileTheyAreOpen) {
   open("/p/dam.KSC", kDam);
   state.windowOpen[2] = true;
   EXPECT_TRUE(build());
-  EXPECT_THAT(summary.calls, ElementsAre("enter 0 /p/dam.DIS as dam", "save /p/SUMMARY.IDE", "modify 1",
-                                         "refresh open files"));
+  EXPECT_THAT(summary.calls,
+              ElementsAre("enter 0 /p/dam.DIS as dam", "save /p/SUMMARY.IDE", "modify 1", "refresh open files"));
 }
 
 // Writes down what is asked of it, fails at one step.

@@ -9,7 +9,8 @@ namespace {
 
 TEST(DamRecords, areThreeTextsThatTogetherAreTheFile) {
   const std::string before = lines({"KESTRA", "OPTION"});
-  const std::string hyd = lines({record({"HYD", "Storm", "1", "0"}) + "0C", "", record({"", "", "1", "2"}), "ENDTABLE"});
+  const std::string hyd =
+      lines({record({"HYD", "Storm", "1", "0"}) + "0C", "", record({"", "", "1", "2"}), "ENDTABLE"});
   const std::string after = lines({"STROUTE", "ENDRUN", "QUIL", "HYD       9", "          1", "ENDTABLE", "ENDRUN"});
   const DamRecords records = readDamRecords(before + hyd + after);
   EXPECT_EQ(records.beforeHyd, before);
@@ -31,8 +32,13 @@ TEST(DamRecords, tellWhatTheFlagsOfTheHydrographAskFor) {
     bool iterate;
     bool variableStep;
   };
-  for (const Case& c : {Case{"", false, false}, {"1", true, false}, {"0C", false, false}, {" V", false, true},
-                        {"1V", true, true}, {"0V", false, true}, {"v1", false, false}}) {
+  for (const Case& c : {Case{"", false, false},
+                        {"1", true, false},
+                        {"0C", false, false},
+                        {" V", false, true},
+                        {"1V", true, true},
+                        {"0V", false, true},
+                        {"v1", false, false}}) {
     const DamRecords records = readDamRecords(lines({record({"HYD", "", "", ""}) + c.flags, "ENDTABLE"}));
     EXPECT_EQ(records.iterate, c.iterate) << c.flags;
     EXPECT_EQ(records.variableStep, c.variableStep) << c.flags;

@@ -56,18 +56,18 @@ TEST_F(DamSolverTest, runsOnceOnAResampledHydrographWhereTheStepVaries) {
   run(lines({"KESTRA", record({"HYD", "Storm", "0.5", "3"}) + " V", record({"", "1", "10"}), record({"", "2", "1,000"}),
              "ENDTABLE", "STROUTE", "ENDRUN"}));
   EXPECT_THAT(started(), ElementsAre("KestraSim.exe /p/dam.V2D"));
-  EXPECT_EQ(text("/p/dam.V2D"), lines({"KESTRA", "HYD       Storm      0.5      3         ",
-                                       "                     10        505       1000     ", "ENDTABLE", "STROUTE",
-                                       "ENDRUN"}));
+  EXPECT_EQ(text("/p/dam.V2D"),
+            lines({"KESTRA", "HYD       Storm      0.5      3         ",
+                   "                     10        505       1000     ", "ENDTABLE", "STROUTE", "ENDRUN"}));
 }
 
 TEST_F(DamSolverTest, usesAStepOfOneHourWhereNoneIsGiven) {
   solveDamWith("out");
   for (const char* step : {"", "0.0009"}) {
-    run(lines({record({"HYD", "Storm", step, ""}) + "0V", record({"", "0", "10"}), record({"", "2", "20"}), "ENDTABLE"}));
-    EXPECT_EQ(text("/p/dam.V2D"),
-              lines({"HYD       Storm      1                  ", "                     10        15        20       ",
-                     "ENDTABLE"}));
+    run(lines(
+        {record({"HYD", "Storm", step, ""}) + "0V", record({"", "0", "10"}), record({"", "2", "20"}), "ENDTABLE"}));
+    EXPECT_EQ(text("/p/dam.V2D"), lines({"HYD       Storm      1                  ",
+                                         "                     10        15        20       ", "ENDTABLE"}));
   }
 }
 
@@ -105,7 +105,8 @@ TEST_F(DamSolverTest, measuresABreachRunByItsPeakPoolToo) {
 }
 
 TEST_F(DamSolverTest, countsAbsentOptionAsARunWithoutBreach) {
-  solveAttempts({{"5", damOutput({{"150", "110"}, {"151", "120"}}, kCrests)}, {"9", damOutput({{"0", "120"}}, kCrests)}});
+  solveAttempts(
+      {{"5", damOutput({{"150", "110"}, {"151", "120"}}, kCrests)}, {"9", damOutput({{"0", "120"}}, kCrests)}});
   run(lines({record({"HYD", "Storm", "1", "0"}) + "1C", record({"", "", "0", "50", "100", "50", "0"}), "ENDTABLE"}));
   EXPECT_EQ(text("/p/dam.BRE"), "breach of /p/dam9") << "compared by the highest pool, not by the one after 100 hours";
 }
@@ -146,7 +147,8 @@ TEST_F(DamSolverTest, takesTheLowestOfTheCrestsOnlyWhereThereIsAPrincipalSpillwa
   const std::vector<std::string> auxiliaryOnly(both.begin() + 1, both.end());
   const auto accepted = [&](const std::vector<std::string>& echo, const char* first, const char* second) {
     processes.requests.clear();
-    solveAttempts({{"5", damOutput({{"0", first}}, echo)}, {"9", damOutput({{"0", second}}, echo)},
+    solveAttempts({{"5", damOutput({{"0", first}}, echo)},
+                   {"9", damOutput({{"0", second}}, echo)},
                    {"17", damOutput({{"0", second}}, echo)}});
     run(controlFile("", "1C"));
     return processes.requests.size();
@@ -174,8 +176,8 @@ TEST_F(DamSolverTest, tellsThatTenAttemptsDidNotSettleAndLeavesNoOutput) {
 
 TEST_F(DamSolverTest, stretchesTheStepOfAnAttemptWithMoreThan17000Points) {
   solveAttempts({{"17000", damOutput({{"0", "90"}}, kCrests)}});
-  run(lines({record({"HYD", "Storm", "0.001", "0"}) + "1V", record({"", "0", "0"}), record({"", "100", "10"}),
-             "ENDTABLE"}));
+  run(lines(
+      {record({"HYD", "Storm", "0.001", "0"}) + "1V", record({"", "0", "0"}), record({"", "100", "10"}), "ENDTABLE"}));
   EXPECT_THAT(started(), ElementsAre("KestraSim.exe /p/dam17000.V2D"));
   const std::string data = text("/p/dam17000.V2D");
   EXPECT_EQ(std::count(data.begin(), data.end(), '\n'), 1 + 17000 / 5 + 1);
@@ -187,8 +189,7 @@ TEST_F(DamSolverTest, takesNoOldFileForTheOutputOfAnAttempt) {
   memory.put("/p/dam5.BRE", "old");
   processes.effects["/app/KestraSim.exe"] = [](const ProcessRequest&) -> ProcessOutcome { return Exited{0}; };
   run(controlFile("", "1C"));
-  EXPECT_THAT(takeBoxes(),
-              ElementsAre("Error: Computation Error: /p/dam5.OUT: No such file or directory (critical)"));
+  EXPECT_THAT(takeBoxes(), ElementsAre("Error: Computation Error: /p/dam5.OUT: No such file or directory (critical)"));
   EXPECT_FALSE(has("/p/dam.OUT"));
   EXPECT_FALSE(has("/p/dam.BRE"));
 }
@@ -215,13 +216,13 @@ TEST_F(DamSolverTest, findsResultsWhateverTheLettersOfTheirNames) {
 
 TEST_F(DamSolverTest, tellsWhatItCannotReadOrWrite) {
   RunDamSolver(context, "/p/none.KSC", false);
-  EXPECT_THAT(takeBoxes(),
-              ElementsAre("Error: Computation Error: /p/none.KSC: No such file or directory (critical)"));
+  EXPECT_THAT(takeBoxes(), ElementsAre("Error: Computation Error: /p/none.KSC: No such file or directory (critical)"));
   files.failEvery("write", FailureKind::full);
   run(controlFile("", " V"));
   EXPECT_THAT(takeBoxes(), ElementsAre("Error: Computation Error: /p/dam.V2D: made to fail (critical)"));
   EXPECT_FALSE(has("/p/dam.V2D")) << "no half of a file";
-  run(lines({record({"HYD", "Storm", "1", "0"}) + "0V", record({"", "0", "1e999"}), record({"", "1", "1"}), "ENDTABLE"}));
+  run(lines(
+      {record({"HYD", "Storm", "1", "0"}) + "0V", record({"", "0", "1e999"}), record({"", "1", "1"}), "ENDTABLE"}));
   EXPECT_THAT(takeBoxes(), ElementsAre("Error: Computation Error: Overflow: a number is too large. (critical)"));
 }
 
@@ -239,7 +240,8 @@ TEST_F(DamSolverTest, showsItsStepOnceTheControlFileIsRead) {
 
 TEST_F(DamSolverTest, handsOverNamesOfAnyKindWhole) {
   solveDamWith("out");
-  for (const char* name : {"/p/my dam.KSC", "/p/\"dam\".KSC", "/p/-dam.KSC", "/p/D\xC3\xA4mme.KSC", "/p/$(x);`y`.KSC"}) {
+  for (const char* name :
+       {"/p/my dam.KSC", "/p/\"dam\".KSC", "/p/-dam.KSC", "/p/D\xC3\xA4mme.KSC", "/p/$(x);`y`.KSC"}) {
     run(controlFile("", ""), name);
     EXPECT_EQ(started().back(), std::string("KestraSim.exe ") + name);
   }

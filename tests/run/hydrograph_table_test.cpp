@@ -10,8 +10,8 @@ namespace kestra {
 namespace {
 
 TEST(HydrographStep, isOneHourWhereTheFieldGivesNoneOrTooSmallAStep) {
-  const std::pair<const char*, double> cases[] = {{"0.25", 0.25}, {"0.001", 0.001}, {"0.0009", 1},  {"", 1},
-                                                  {"   ", 1},     {"-1", 1},        {"none", 1},    {"2h", 2}};
+  const std::pair<const char*, double> cases[] = {{"0.25", 0.25}, {"0.001", 0.001}, {"0.0009", 1}, {"", 1},
+                                                  {"   ", 1},     {"-1", 1},        {"none", 1},   {"2h", 2}};
   for (const auto& [field, step] : cases) EXPECT_EQ(hydrographStep(record({"HYD", "title", field})), step) << field;
   EXPECT_EQ(hydrographStep("HYD"), 1);
 }
@@ -20,8 +20,8 @@ TEST(HydrographTable, keepsTitleAndStartAndWritesFiveDischargesARow) {
   const std::string old = record({"HYD", "A storm", "0.5", "2"}) + "1V";
   EXPECT_EQ(hydrographTable(old, {0.25, {0, 1.5, 100, 1234567.891234, 1e-7, 7}}),
             lines({"HYD       A storm    0.25     2         ",
-                   "                     0         1.5       100       1234567.8 0.0000001", "                     7        ",
-                   "ENDTABLE"}));
+                   "                     0         1.5       100       1234567.8 0.0000001",
+                   "                     7        ", "ENDTABLE"}));
 }
 
 TEST(HydrographTable, leavesTheStartBlankInAShortRecordAndNeedsNoRows) {

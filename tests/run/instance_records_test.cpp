@@ -36,8 +36,12 @@ TEST(InstanceRecords, tellTheFlagsOfTheFirstRecord) {
     bool strip;
     bool blank;
   };
-  for (const Case& c : {Case{"TORVE", "L", true, false}, {"VERN2", "F", false, true}, {"QUIL", " 8", false, true},
-                        {"QUIL", "L8", true, true}, {"QUIL", "", false, false}, {"QUIL", "8", false, false},
+  for (const Case& c : {Case{"TORVE", "L", true, false},
+                        {"VERN2", "F", false, true},
+                        {"QUIL", " 8", false, true},
+                        {"QUIL", "L8", true, true},
+                        {"QUIL", "", false, false},
+                        {"QUIL", "8", false, false},
                         {"KESTRA", "L8", false, false}}) {
     const auto records = readInstanceRecords(record({c.key, "", "", "", "", "", ""}) + c.flags);
     EXPECT_EQ(records.stripFalseStructure, c.strip) << c.key << c.flags;
@@ -74,9 +78,9 @@ TEST(WithoutLink, dropsTheLinkAndKeepsTheLastLine) {
 }
 
 TEST(WithAlternative, putsOneValueIntoTheRecordsThatNameSeveral) {
-  const std::string text = lines({"QUIL", record({"BTMWIDTH", "FEET", "50", "60"}), record({"ASCREST", "METERS", "1", "2"})});
-  EXPECT_EQ(withAlternative(text, "60", "2"),
-            lines({"QUIL", "BTMWIDTH  FEET      60", "ASCREST   METERS    2"}));
+  const std::string text =
+      lines({"QUIL", record({"BTMWIDTH", "FEET", "50", "60"}), record({"ASCREST", "METERS", "1", "2"})});
+  EXPECT_EQ(withAlternative(text, "60", "2"), lines({"QUIL", "BTMWIDTH  FEET      60", "ASCREST   METERS    2"}));
   EXPECT_EQ(withAlternative(text, std::nullopt, "1"),
             lines({"QUIL", record({"BTMWIDTH", "FEET", "50", "60"}), "ASCREST   METERS    1"}));
   EXPECT_EQ(withAlternative(text, std::nullopt, std::nullopt), text);

@@ -55,8 +55,7 @@ TEST(DeleteOldRunFiles, looksForANameWithAnUnderscoreInTheFolderBeforeItsLast) {
     desk.memory.put(name, "x");
   }
   DeleteOldRunFiles(desk.files, "/p", "a_b_1");
-  EXPECT_THAT(below(desk.memory, "/p"),
-              ElementsAre("a", "a/a_b.OUT", "a_b", "a_b.OUT", "a_b/a_b_2.OUT", "a_b_1.OUT"));
+  EXPECT_THAT(below(desk.memory, "/p"), ElementsAre("a", "a/a_b.OUT", "a_b", "a_b.OUT", "a_b/a_b_2.OUT", "a_b_1.OUT"));
 }
 
 TEST(DeleteOldRunFiles, leavesWhatCannotBeDeletedWithoutAWord) {

@@ -17,8 +17,8 @@ using testing::IsEmpty;
 const std::string kInstance = "/p/dam/dam1_0.V2D";
 const std::string kHyd = "HYD       9                   C";
 const std::string kOldTable = lines({kHyd, "          1", "ENDTABLE"});
-const std::string kNewTable = lines({kHyd, "                    1         0         ",
-                                     "                    7         8         ", "ENDTABLE"});
+const std::string kNewTable =
+    lines({kHyd, "                    1         0         ", "                    7         8         ", "ENDTABLE"});
 
 class SpillwayCaseTest : public testing::Test, public RunDesk {
  protected:
@@ -161,9 +161,9 @@ TEST_F(SpillwayCaseTest, runsEachWidthWithEachCrestByTheDamSolver) {
   EXPECT_EQ(text("/p/dam/dam1_0/d.v2c"), instance({"BTMWIDTH  FEET      60", "ASCREST   FEET      1201"}));
   EXPECT_EQ(text("/p/dam/dam1_0/ASFILE"), "companion");
   EXPECT_EQ(text("/p/dam/dam1_0/c.DIS"), lines({"East     ", "a", "b", "c", "d", "N/A", "e"}));
-  EXPECT_THAT(std::vector<std::string>(summary.calls.begin(), summary.calls.begin() + 4),
-              ElementsAre("enter 25 /p/dam/dam1_0/a.DIS as dam/dam1_0/a", "save /p/SUMMARY.IDE", "modify 1",
-                          "refresh open files"));
+  EXPECT_THAT(
+      std::vector<std::string>(summary.calls.begin(), summary.calls.begin() + 4),
+      ElementsAre("enter 25 /p/dam/dam1_0/a.DIS as dam1_0/a", "save /p/SUMMARY.IDE", "modify 1", "refresh open files"));
   EXPECT_EQ(summary.calls.size(), 4U * 4 + 2);
   EXPECT_EQ(summary.calls[16], "load");
   EXPECT_THAT(takeBoxes(), IsEmpty());
@@ -175,7 +175,8 @@ TEST_F(SpillwayCaseTest, replacesOnlyTheRecordThatNamesSeveralValues) {
   run(instance({width, record({"ASCREST", "FEET", "1200", "", "1202"})}));
   EXPECT_EQ(text("/p/dam/dam1_0/b.v2c"), instance({width, "ASCREST   FEET      1202"}));
   EXPECT_EQ(started().size(), 2U);
-  run(instance({record({"BTMWIDTH", "FEET", "1", "2", "3", "4", "5"}), record({"ASCREST", "FEET", "1", "2", "3", "4", "5"})}));
+  run(instance(
+      {record({"BTMWIDTH", "FEET", "1", "2", "3", "4", "5"}), record({"ASCREST", "FEET", "1", "2", "3", "4", "5"})}));
   EXPECT_EQ(started().back(), "KestraSim.exe /p/dam/dam1_0/y.v2c");
 }
 
@@ -187,8 +188,7 @@ TEST_F(SpillwayCaseTest, stopsAtAnAlternativeThatLeavesNoDigestAndKeepsTheEntrie
   run(instance({record({"BTMWIDTH", "FEET", "1", "2", "3"})}));
   EXPECT_EQ(started().size(), 2U);
   EXPECT_THAT(takeBoxes(), ElementsAre("Error Message: Unable to build the summary file for b. (warning)"));
-  EXPECT_THAT(summary.calls,
-              ElementsAre("enter 25 /p/dam/dam1_0/a.DIS as dam/dam1_0/a", "save /p/SUMMARY.IDE", "load"));
+  EXPECT_THAT(summary.calls, ElementsAre("enter 25 /p/dam/dam1_0/a.DIS as dam1_0/a", "save /p/SUMMARY.IDE", "load"));
 }
 
 TEST_F(SpillwayCaseTest, tellsAFailureAsOneOfTheOutput) {
@@ -212,7 +212,9 @@ TEST_F(SpillwayCaseTest, tellsADirectoryThatHasGoneWhileTheInstanceWasPrepared) 
 }
 
 TEST_F(SpillwayCaseTest, filtersTheOutputWhereTheFirstRecordSaysSo) {
-  const auto first = [](const char* flags) { return record({"QUIL", "02/09/2002", "1", "", "", "", ""}) + flags + "\r\n"; };
+  const auto first = [](const char* flags) {
+    return record({"QUIL", "02/09/2002", "1", "", "", "", ""}) + flags + "\r\n";
+  };
   run(first("F") + lines({"ENDJOB", "ENDRUN"}));
   // Two lines are put in front of and into the digest after its lines 15 and 16 would have been blanked.
   EXPECT_EQ(text("/p/dam/dam1_0.DIS").substr(0, 10), "East     \r");

@@ -63,8 +63,8 @@ TEST_F(SpillwayInflow, takes5000DischargesAtMost) {
 
 TEST_F(SpillwayInflow, needsAnOutputWithTwoRows) {
   EXPECT_EQ(faultOf(), "/p/dam.OUT: No such file or directory");
-  for (const std::string& output :
-       {std::string(), std::string("Error\r\n"), lines({"Hydrograph Routing"}), damOutput({}), damOutput({{"0", "1"}})}) {
+  for (const std::string& output : {std::string(), std::string("Error\r\n"), lines({"Hydrograph Routing"}),
+                                    damOutput({}), damOutput({{"0", "1"}})}) {
     memory.put("/p/dam.OUT", output);
     EXPECT_EQ(faultOf(), "/p/dam.OUT: The routing table has fewer than two rows.");
   }

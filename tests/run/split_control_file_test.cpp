@@ -68,8 +68,9 @@ TEST_F(SplitControlFileTest, removesOldSplitFilesWhenThereAreFewerSpillways) {
 }
 
 TEST_F(SplitControlFileTest, tellsNameAndAnalysisOfEachSpillwayOfTheDamsRun) {
-  split(lines({"KESTRA", surface("1", "East", "2"), rating("2", "West", "2"), surface("3", "Long name", "1"), "ENDRUN"}) +
-        lines({surface("3", "Run", "2"), "ENDRUN"}));
+  split(
+      lines({"KESTRA", surface("1", "East", "2"), rating("2", "West", "2"), surface("3", "Long name", "1"), "ENDRUN"}) +
+      lines({surface("3", "Run", "2"), "ENDRUN"}));
   EXPECT_THAT(tables.spillwayName, ElementsAre("East     ", "West     ", "Long name"));
   EXPECT_THAT(tables.spillwayAnalysisFlag, ElementsAre(true, true, false));
   EXPECT_THAT(tables.spillwayRatingFlag, ElementsAre(false, true, false));

@@ -115,7 +115,8 @@ TEST_F(StubSolvers, runWithBlanksInEveryPath) {
   solver("TorveSim.exe", kStem + kDigest + "echo graph >dam1_0.DG1\n");
   EXPECT_TRUE(build("my dam.KSC"));
   EXPECT_EQ(text(at("my dam.OUT")), "done\n");
-  EXPECT_THAT(text(at("my dam.log")), HasSubstr(project + "\n" + at("my dam.KSC") + "\n\r\n-- KestraSim.exe ended with"));
+  EXPECT_THAT(text(at("my dam.log")),
+              HasSubstr(project + "\n" + at("my dam.KSC") + "\n\r\n-- KestraSim.exe ended with"));
   EXPECT_EQ(text(at("my dam/my dam1_0.DIS")), lines({"", "a", "b", "c", "d", "N/A", "e"}));
   EXPECT_THAT(takeBoxes(), IsEmpty());
   EXPECT_THAT(told, IsEmpty());
@@ -141,7 +142,11 @@ TEST_F(StubSolvers, thatCannotBeStartedAreNamedWithTheirPlace) {
   const Case cases[] = {
       {"No such file or directory", [&] { std::filesystem::remove(path); }},
       {"Permission denied", [&] { put(path, "#!/bin/sh\n"); }},
-      {"Exec format error", [&] { ::chmod(path.c_str(), 0755); put(path, "echo\n"); }},
+      {"Exec format error",
+       [&] {
+         ::chmod(path.c_str(), 0755);
+         put(path, "echo\n");
+       }},
   };
   for (const Case& c : cases) {
     told.clear();
@@ -203,10 +208,11 @@ TEST_F(StubSolvers, thatLeaveNothingOrRubbishGiveTheDigestThatTheirLinesAllow) {
 }
 
 TEST_F(StubSolvers, mayLeaveATableOfAMillionRows) {
-  solver("KestraSim.exe", kStem +
-                              "{ printf 'Hydrograph Routing\\n (hr)\\n ---\\n'\n"
-                              "awk 'BEGIN { for (i = 0; i < 1000000; ++i) printf \"%10.3f%10.1f%10.1f\\n\", i, 1, i % 7 }'\n"
-                              "} >\"$stem.OUT\"\n");
+  solver("KestraSim.exe",
+         kStem +
+             "{ printf 'Hydrograph Routing\\n (hr)\\n ---\\n'\n"
+             "awk 'BEGIN { for (i = 0; i < 1000000; ++i) printf \"%10.3f%10.1f%10.1f\\n\", i, 1, i % 7 }'\n"
+             "} >\"$stem.OUT\"\n");
   EXPECT_TRUE(build());
   EXPECT_THAT(digest(), testing::StartsWith("6;"));
 }
@@ -239,10 +245,11 @@ TEST_F(StubSolvers, mayRemoveTheProjectUnderTheBuild) {
 }
 
 TEST_F(StubSolvers, iterateOverRealFiles) {
-  solver("KestraSim.exe", kStem +
-                              "echo $(basename \"$1\") >>tried\n"
-                              "{ printf 'Hydrograph Routing\\n (hr)\\n ---\\n'\n"
-                              "printf '%10s%70s%10s\\n' 0 '' $(case $stem in *dam5) echo 110;; *) echo 111;; esac); } >\"$stem.OUT\"\n");
+  solver("KestraSim.exe",
+         kStem +
+             "echo $(basename \"$1\") >>tried\n"
+             "{ printf 'Hydrograph Routing\\n (hr)\\n ---\\n'\n"
+             "printf '%10s%70s%10s\\n' 0 '' $(case $stem in *dam5) echo 110;; *) echo 111;; esac); } >\"$stem.OUT\"\n");
   state.currentFile = at("dam.KSC");
   put(state.currentFile, lines({record({"HYD", "Storm", "1", "0"}) + "1C",
                                 record({"", "", "0", "50", "100", "50", "0"}), "ENDTABLE", "ENDRUN"}));

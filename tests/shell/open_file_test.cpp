@@ -46,6 +46,15 @@ TEST_F(Open, keepsTheMainRunAsItWasRead) {
   EXPECT_EQ(desk.shell.controlFiles.texts.controlText, "KESTRA    01/01/2009Pond\r\nENDRUN\r\n");
 }
 
+TEST_F(Open, tellsOfAJobWithMorePartsThanThereAreRuns) {
+  std::string text = "QUIL      01/01/2009Job\r\n";
+  for (int part = 0; part <= 101; ++part) text += "SAVMOV    0\r\n";
+  desk.memory.put("/home/dam/job.KSC", text);
+  desk.open("/home/dam/job.KSC");
+  EXPECT_EQ(desk.takeBoxes(), Boxes{"Error Message: /home/dam/job.KSC: subscript out of range"});
+  expectOpen("/home/dam/job.KSC", "Job");
+}
+
 TEST_F(Open, findsTheFileByALinkARelativeNameOrAnotherLetterCase) {
   desk.memory.putLink("/link", "/home/dam");
   const std::pair<const char*, const char*> table[] = {{"pond.KSC", "/home/dam/pond.KSC"},

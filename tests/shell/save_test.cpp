@@ -139,6 +139,29 @@ TEST_F(SaveAs, doesNotAskWhenTheFileWasOnlyTouchedOrIsGone) {
   EXPECT_EQ(desk.takeBoxes(), Boxes());
 }
 
+TEST_F(SaveAs, tellsOnceWhatIsTooLongForItsColumns) {
+  desk.edit(std::string(60, 'x'));
+  save("/home/dam/pond.KSC");
+  EXPECT_EQ(desk.takeBoxes().size(), 1U);
+  EXPECT_EQ(desk.state.currentFile, "/home/dam/pond.KSC");
+}
+
+TEST_F(SaveAs, asksBeforeACommandTooWhenAnotherProgramHasChangedTheFile) {
+  const std::string path = "/home/dam/pond.KSC";
+  save(path);
+  desk.edit("Lake");
+  desk.memory.put(path, "changed");
+  desk.boxes.answers = {BoxButton::yes, BoxButton::no};
+  desk.choose(path);
+  desk.window.mnuNew.click();
+  EXPECT_EQ(desk.takeBoxes(),
+            (Boxes{"Warning: Do you want to save changes to the current file before creating a new file?",
+                   "Warning: Another program has changed the file " + path +
+                       " since it was opened here. Do you want to replace it?"}));
+  EXPECT_EQ(content(path), "changed");
+  EXPECT_EQ(desk.shownTitle(), "Lake");
+}
+
 TEST_F(SaveAs, leavesTheOldFileAndTheStateWhenItCannotWrite) {
   const std::string path = "/home/dam/pond.KSC";
   save(path);

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory_file_system.h"
-#include "platform/scripted.h"
+#include "support/input_desk.h"
 #include "support/result_matchers.h"
 
 namespace kestra {
@@ -13,20 +12,7 @@ constexpr const char* kChecker = "/app/KestraIntCheck.exe";
 constexpr const char* kSpillwayChecker = "/app/IntCheck.exe";
 constexpr const char* kHeading = "    2    1\r\n";
 
-struct IntegrityCheck : testing::Test {
-  MemoryFileSystem files;
-  ScriptedMessageBoxes boxes;
-  ScriptedDialogs dialogs;
-  MemorySettings settings;
-  MemoryClipboard clipboard;
-  ScriptedProcessHost processes;
-  RecordingEventPump events;
-  RecordingBeeper beeper;
-  ScriptedEntropy entropy;
-  ScriptedClock clock;
-  RecordingHelpViewer help;
-  Ports ports{boxes, dialogs, settings, clipboard, processes, files, events, beeper, entropy, clock, help};
-
+struct IntegrityCheck : testing::Test, InputDesk {
   IntegrityCheck() { files.putDirectory("/dam"); }
 
   // What a checker does: it writes a file.
