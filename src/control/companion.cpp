@@ -59,7 +59,8 @@ std::string catalogueName(const std::string& name) {
 
 class Comparison {
  public:
-  Comparison(const std::set<std::string>& written, const std::set<std::string>& read) : written_(written), read_(read) {}
+  Comparison(const std::set<std::string>& written, const std::set<std::string>& read)
+      : written_(written), read_(read) {}
 
   Json take() { return std::move(kept_); }
 
@@ -125,7 +126,8 @@ class Comparison {
     for (int row = entered.fixedRows(); row < entered.rows(); ++row) {
       for (int column = entered.fixedColumns(); column < entered.columns(); ++column) {
         const std::string& cell = entered.cell(row, column);
-        if (cell != read.cell(row, column)) lost = lost || !isCut(catalogued, row, column, cell, read.cell(row, column));
+        if (cell != read.cell(row, column))
+          lost = lost || !isCut(catalogued, row, column, cell, read.cell(row, column));
       }
     }
     if (lost) kept_[kTables][name] = keptTable(catalogued, entered, read);
@@ -171,8 +173,8 @@ void keepSpillways(Json& kept, const AuxStore& entered, const AuxStore& read) {
   Json list = Json::array();
   bool any = false;
   for (std::size_t i = 0; i < kAuxSpillways; ++i) {
-    list.push_back(keptSpillway({entered.auxProfile[i], entered.auxMaterials[i]},
-                                {read.auxProfile[i], read.auxMaterials[i]}));
+    list.push_back(
+        keptSpillway({entered.auxProfile[i], entered.auxMaterials[i]}, {read.auxProfile[i], read.auxMaterials[i]}));
     any = any || !list.back().is_null();
   }
   if (any) kept[kSpillways] = std::move(list);

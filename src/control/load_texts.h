@@ -12,8 +12,9 @@ struct LoadPlace {
   ReadPlace place;
 };
 
-// Fills the screens from the texts: the main run, then each run of a spillway, which goes to the spillway that its first
-// record names, or by its position. A RuntimeFault leaves them as far as they were filled, and `at` where that was.
+// Fills the screens from the texts: the main run, then each run of a spillway, which goes to the spillway that its
+// first record names, or by its position. A RuntimeFault leaves them as far as they were filled, and `at` where that
+// was.
 void loadTexts(InputContext& input, ScreenFields& fields, const ControlTexts& texts, LoadPlace& at);
 
 }  // namespace kestra
