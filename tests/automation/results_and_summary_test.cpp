@@ -75,8 +75,7 @@ TEST_F(ResultsAndSummary, entersAndSavesDigests) {
   EXPECT_EQ(variable("fieldSelected(0)"), "{'ok':true,'value':[true,false]}");
   EXPECT_EQ(variable("fieldSelected(5)"), "{'ok':true,'value':[false,true]}");
   EXPECT_EQ(variable("summaryOrder"), "{'ok':true,'value':'2'}");
-  EXPECT_EQ(call("SaveSummaryStore", "'/gone/SUMMARY.IDE'"),
-            "{'ok':false,'error':'/gone: No such file or directory'}");
+  EXPECT_EQ(call("SaveSummaryStore", "'/gone/SUMMARY.IDE'"), "{'ok':false,'error':'/gone: No such file or directory'}");
   EXPECT_EQ(call("LoadDigestEntry", "-1,'/p/run.DIS','run'"),
             "{'ok':false,'error':'field offset -1 is outside 0 to 64'}");
 }
