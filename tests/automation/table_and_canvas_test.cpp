@@ -131,15 +131,19 @@ TEST_F(CanvasVerbs, refuseAMouseThatThereIsNot) {
 
 TEST_F(CanvasVerbs, tellTheDrawingCallsUnrounded) {
   CanvasControl& canvas = desk.gallery.canvas;
-  canvas.record({"FontBold", {true}});
-  canvas.clear();
+  canvas.FontBold(true);
+  canvas.Cls();
   EXPECT_EQ(onCanvas("canvas", ""), "{'ok':true,'value':[]}");
-  canvas.setScale({0, 10, 0.1 + 0.2, -1e-300});
-  canvas.record({"Print", {1.0, 2.0, std::string("a \"b\"\n")}});
-  canvas.record({"Visible", {false}});
+  canvas.Scale(0, 10, 0.1 + 0.2, -1e-300);
+  canvas.moveTo(1, 2);
+  canvas.Print("a \"b\"\n");
+  canvas.Circle(1, 2, 0.0006, 255);
+  canvas.FontSize(8.25);
+  canvas.Visible(false);
   EXPECT_EQ(onCanvas("canvas", ""),
             "{'ok':true,'value':[['Scale',0.0,10.0,0.30000000000000004,-1e-300],['Print',1.0,2.0,'a \\'b\\'\\n'],"
-            "['Visible',false]]}");
+            "['Circle',1.0,2.0,0.0006,255],['FontSize',8.25],['Visible',false]]}");
+  EXPECT_FALSE(canvas.visible());
   EXPECT_EQ(tell("canvas", ""), "{'ok':false,'error':'gallery.table is no canvas'}");
 }
 
