@@ -49,6 +49,7 @@ const std::vector<Operation>& operations() {
     append(all, auxOperations());
     append(all, structureOperations());
     append(all, hydrographOperations());
+    append(all, graphOperations());
     return all;
   }();
   return kOperations;

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "automation/aux_values.h"
+#include "automation/graph_values.h"
 #include "base/numbers.h"
 
 namespace kestra {
@@ -48,34 +49,38 @@ Json titleCounts(const Application& application) {
 
 const std::map<std::string, Reader>& readers() {
   using State = ApplicationState;
-  static const std::map<std::string, Reader> kReaders = {
-      {"projectDir", fromState(&State::projectDir)},
-      {"currentFile", fromState(&State::currentFile)},
-      {"fileDirty", fromState(&State::fileDirty)},
-      {"fileIsNew", fromState(&State::fileIsNew)},
-      {"fileHasName", fromState(&State::fileHasName)},
-      {"bExiting", fromState(&State::bExiting)},
-      {"projectReadOnly", fromState(&State::projectReadOnly)},
-      {"inputScreens", fromState(&State::inputScreens)},
-      {"solverPath", fromState(&State::solverPath)},
-      {"crlf", fromState(&State::crlf)},
-      {"numAuxSpillways", fromState(&State::numAuxSpillways)},
-      {"curAuxSpillway", fromState(&State::curAuxSpillway)},
-      {"currentSpillwayNumber", fromState(&State::currentSpillwayNumber)},
-      {"totalInstances", fromState(&State::totalInstances)},
-      {"lhsSeed", fromState(&State::lhsSeed)},
-      {"bRandomSample", fromState(&State::bRandomSample)},
-      {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
-      {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
-      {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},
-      {"ComboList", [](const Application& a) -> Json { return a.shell.lines.ComboList; }},
-      {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
-      {"fieldTitles", titlesByIndex},
-      {"fieldCount", titleCounts},
-      {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
-      {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
-      {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},
-  };
+  static const std::map<std::string, Reader> kReaders = [] {
+    std::map<std::string, Reader> all = {
+        {"projectDir", fromState(&State::projectDir)},
+        {"currentFile", fromState(&State::currentFile)},
+        {"fileDirty", fromState(&State::fileDirty)},
+        {"fileIsNew", fromState(&State::fileIsNew)},
+        {"fileHasName", fromState(&State::fileHasName)},
+        {"bExiting", fromState(&State::bExiting)},
+        {"projectReadOnly", fromState(&State::projectReadOnly)},
+        {"inputScreens", fromState(&State::inputScreens)},
+        {"solverPath", fromState(&State::solverPath)},
+        {"crlf", fromState(&State::crlf)},
+        {"numAuxSpillways", fromState(&State::numAuxSpillways)},
+        {"curAuxSpillway", fromState(&State::curAuxSpillway)},
+        {"currentSpillwayNumber", fromState(&State::currentSpillwayNumber)},
+        {"totalInstances", fromState(&State::totalInstances)},
+        {"lhsSeed", fromState(&State::lhsSeed)},
+        {"bRandomSample", fromState(&State::bRandomSample)},
+        {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
+        {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
+        {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},
+        {"ComboList", [](const Application& a) -> Json { return a.shell.lines.ComboList; }},
+        {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
+        {"fieldTitles", titlesByIndex},
+        {"fieldCount", titleCounts},
+        {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
+        {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
+        {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},
+    };
+    all.merge(graphVariables());
+    return all;
+  }();
   return kReaders;
 }
 

@@ -4,8 +4,8 @@
 
 namespace kestra {
 
-// Draws the part of the segment from (x1, y1) to (x2, y2), in data coordinates, that lies within the closed window, with
-// canvas y = Ymin + Ymax - y, in the direction of the segment. A segment that only touches the window from outside
+// Draws the part of the segment from (x1, y1) to (x2, y2), in data coordinates, that lies within the closed window,
+// with canvas y = Ymin + Ymax - y, in the direction of the segment. A segment that only touches the window from outside
 // draws nothing. A slope is taken over a width of 0.0001 at least, so that a steep line leaves the window a hair aside
 // of where it should.
 //

@@ -49,7 +49,8 @@ void drawPoints(const Series& series, const View& w, AbstractCanvas& canvas) {
     return;
   }
   const auto points = pointsForColumns(series, canvas.ScaleLeft(), canvas.ScaleWidth(), columns);
-  drawLine(series, w, canvas, static_cast<int>(points.size()), [&](int j) { return points[static_cast<std::size_t>(j)]; });
+  drawLine(series, w, canvas, static_cast<int>(points.size()),
+           [&](int j) { return points[static_cast<std::size_t>(j)]; });
 }
 
 void drawLegendRow(const View& w, AbstractCanvas& canvas, int row, const std::string& name) {

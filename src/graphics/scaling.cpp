@@ -62,7 +62,7 @@ Steps Scaling(View& window, ScaleMemo& memo) {
   rounded.Ymin += 0.0;  // never -0
   rounded.Ymax = endPoint(rounded.Ymin, window.Ymax, steps.YStep);
   window = rounded;
-  memo = {steps.XStep,  steps.YStep, window.Xmin,     window.Xmax,
+  memo = {steps.XStep, steps.YStep, window.Xmin,     window.Xmax,
           window.Ymin, window.Ymax, window.xRange(), window.yRange()};
   return steps;
 }

@@ -28,6 +28,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       deleteProject(context, projects, topScreen, applicationDirectory),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
+      graphs(context, lines),
       context_(context),
       applicationDirectory_(applicationDirectory) {
   ScreenHost& host = context_.host;
@@ -50,6 +51,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   topScreen.onEnd = [this] { end(); };
   inputWindow.onExit = [this] { projects.leave(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
+  topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
     topScreen.windows().shown(screen);
     topScreen.windows().FindFormToBuildItems();
@@ -59,6 +61,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     host.enter(*screen);
   }
   input.enterAll(host);
+  graphs.enterAll(host);
   for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);
   host.setHistory(&history);
 }

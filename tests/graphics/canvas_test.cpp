@@ -46,9 +46,9 @@ TEST(ACanvas, remembersEverySettingEachTimeItIsMade) {
   canvas.FontBold(true);
   canvas.Visible(false);
   canvas.AutoRedraw(true);
-  EXPECT_EQ(callsOf(canvas), (Lines{"Scale -1 20 9 0", "ForeColor 255", "ForeColor 255", "BackColor 7", "DrawStyle 2",
-                                    "DrawWidth 3", "DrawMode 6", "FontSize 16", "FontBold 1", "Visible 0",
-                                    "AutoRedraw 1"}));
+  EXPECT_EQ(callsOf(canvas),
+            (Lines{"Scale -1 20 9 0", "ForeColor 255", "ForeColor 255", "BackColor 7", "DrawStyle 2", "DrawWidth 3",
+                   "DrawMode 6", "FontSize 16", "FontBold 1", "Visible 0", "AutoRedraw 1"}));
   EXPECT_EQ(canvas.ScaleLeft(), -1);
   EXPECT_EQ(canvas.ScaleTop(), 20);
   EXPECT_EQ(canvas.ScaleWidth(), 10);

@@ -37,10 +37,10 @@ TEST_F(AFrame, isNotDrawnWithoutAScale) {
 TEST_F(AFrame, hasTicksAndNumbersFromTheEndsOfTheWindow) {
   window = {1, 11, 2, 4};
   DrawTic(sheet, {5, 1}, canvas);
-  EXPECT_EQ(calls(), (Lines{"DrawStyle 0", "ForeColor 101",                       //
-                            "Line 0.9 4 1.1 4", "Print -0.25 3.96 2",             //
-                            "Line 0.9 3 1.1 3", "Print -0.25 2.96 3",             //
-                            "Line 0.9 2 1.1 2", "Print -0.25 1.96 4",             //
+  EXPECT_EQ(calls(), (Lines{"DrawStyle 0", "ForeColor 101",                          //
+                            "Line 0.9 4 1.1 4", "Print -0.25 3.96 2",                //
+                            "Line 0.9 3 1.1 3", "Print -0.25 2.96 3",                //
+                            "Line 0.9 2 1.1 2", "Print -0.25 1.96 4",                //
                             "Line 1 3.98 1 4.02", "Print 0.666666666666667 4.04 1",  //
                             "Line 6 3.98 6 4.02", "Print 5.66666666666667 4.04 6",   //
                             "Line 11 3.98 11 4.02", "Print 10.6666666666667 4.04 11"}));
@@ -54,9 +54,9 @@ TEST_F(AFrame, endsItsTicksWhereAStepMovesNothing) {
 }
 
 TEST(ANumberAtATick, isCutAndNotRounded) {
-  const std::pair<double, const char*> cases[] = {{1.239, "1.23"},   {-1.239, "-1.23"}, {0, "0"},
-                                                  {-0.004, "0"},     {1200, "1200"},    {0.5, "0.5"},
-                                                  {0.29, "0.28"},    {1e15, "1000000000000000"}};
+  const std::pair<double, const char*> cases[] = {
+      {1.239, "1.23"}, {-1.239, "-1.23"}, {0, "0"},       {-0.004, "0"},
+      {1200, "1200"},  {0.5, "0.5"},      {0.29, "0.28"}, {1e15, "1000000000000000"}};
   for (const auto& [value, text] : cases) EXPECT_EQ(cutNumber(value), text);
 }
 
@@ -64,9 +64,9 @@ TEST_F(AFrame, hasItsLabelsAcrossAndDownward) {
   canvas.Scale(0, 0, 100.6, 200);
   canvas.Cls();
   DrawLabel(sheet, canvas, "Time (hr)", "A b (ft) ");
-  EXPECT_EQ(calls(), (Lines{"DrawStyle 0", "ForeColor 101", "Print 45.45 163 Time (hr)", "Print 2.02 30 A",
-                            "Print 2.02 38 ", "Print 2.02 46 b", "Print 2.02 54 ", "Print 1.313 70 (ft)",
-                            "ForeColor 103"}));
+  EXPECT_EQ(calls(),
+            (Lines{"DrawStyle 0", "ForeColor 101", "Print 45.45 163 Time (hr)", "Print 2.02 30 A", "Print 2.02 38 ",
+                   "Print 2.02 46 b", "Print 2.02 54 ", "Print 1.313 70 (ft)", "ForeColor 103"}));
 }
 
 TEST_F(AFrame, writesALabelWithoutUnitWhollyDownward) {

@@ -31,10 +31,10 @@ TEST_F(TheLinesOfAGraph, haveALegendWhenThereAreSeveral) {
   series.add(0, 0, 0);
   series.add(0, 5, 5);
   DrawSeriesLines(sheet, canvas);
-  EXPECT_EQ(calls(), (Lines{"Scale -2.4 -1.05263157894737 12 13.6", "DrawMode 13", "DrawWidth 1",       //
-                            "ForeColor 102", "DrawWidth 2", "DrawStyle 0", "Line 0 10 5 5",              //
-                            "Line 10.1 1 10.6 1", "Print 10.7 0.7 One",                                  //
-                            "ForeColor 103", "DrawWidth 4", "DrawStyle 1", "Line 10.1 1.6 10.6 1.6",     //
+  EXPECT_EQ(calls(), (Lines{"Scale -2.4 -1.05263157894737 12 13.6", "DrawMode 13", "DrawWidth 1",     //
+                            "ForeColor 102", "DrawWidth 2", "DrawStyle 0", "Line 0 10 5 5",           //
+                            "Line 10.1 1 10.6 1", "Print 10.7 0.7 One",                               //
+                            "ForeColor 103", "DrawWidth 4", "DrawStyle 1", "Line 10.1 1.6 10.6 1.6",  //
                             "Print 10.7 1.3 None"}));
 }
 
