@@ -4,8 +4,10 @@
 #include "app/application.h"
 #include "automation/driver.h"
 #include "base/paths.h"
+#include "cli/graph_command.h"
 #include "cli/native_desk.h"
 #include "cli/options.h"
+#include "cli/pictures.h"
 #include "platform/native/terminal_dialogs.h"
 #include "platform/native/terminal_message_boxes.h"
 
@@ -40,6 +42,9 @@ int drive(const CliOptions& options) {
   NativeDesk desk(options);
   Conversation conversation(std::cerr);
   Application application(desk.ports(conversation, conversation, conversation), desk.applicationDirectory());
+  const auto pictures = makePictures();
+  application.shell.graphs.context.pictures = pictures.get();
+  application.shell.graphs.context.printer = &desk.printer();
   Driver driver(application, conversation);
   application.shell.startUp(options.controlFile);
   if (application.shell.ended()) return kFailed;
@@ -48,11 +53,31 @@ int drive(const CliOptions& options) {
   return 0;
 }
 
+int graph(const CliOptions& options) {
+  NativeDesk desk(options);
+  TerminalMessageBoxes boxes(std::cerr, options.yes);
+  TerminalDialogs dialogs(std::cerr);
+  TerminalBeeper beeper;
+  const auto pictures = makePictures();
+  Application application(desk.ports(boxes, dialogs, beeper), desk.applicationDirectory());
+  application.shell.graphs.context.pictures = pictures.get();
+  application.shell.startUp("");
+  return drawGraphs(application, options, std::cout, std::cerr);
+}
+
 int run(int argc, char** argv) {
   int exitCode = 0;
   const auto options = parseCommandLine(argc, argv, std::cout, std::cerr, exitCode);
   if (!options) return exitCode;
-  return options->command == CliCommand::newProject ? makeProject(*options) : drive(*options);
+  switch (options->command) {
+    case CliCommand::newProject:
+      return makeProject(*options);
+    case CliCommand::graph:
+      return graph(*options);
+    case CliCommand::drive:
+      break;
+  }
+  return drive(*options);
 }
 
 }  // namespace

@@ -130,8 +130,9 @@ void frmOutputGraph::copy() {
 }
 
 void frmOutputGraph::saveAs() {
-  const auto path = chooseFile(context_.base.ports, {FileDialog::Kind::save, "Save As",
-                                                     "All Files (*.*)|*.*|Bitmap Files (*.bmp)|*.bmp", 2, {}, false});
+  const auto path =
+      chooseFile(context_.base.ports,
+                 {FileDialog::Kind::save, "Save As", "All Files (*.*)|*.*|Bitmap Files (*.bmp)|*.bmp", 2, {}, false});
   if (!path || path->empty()) return;
   const Result<std::string> bitmap = picture(PictureForm::bmp);
   if (!bitmap) return tell(bitmap.failure());
@@ -140,8 +141,9 @@ void frmOutputGraph::saveAs() {
 }
 
 void frmOutputGraph::exportData() {
-  const auto path = chooseFile(context_.base.ports, {FileDialog::Kind::save, "Export Data",
-                                                     "All Files (*.*)|*.*|CSV Files (*.csv)|*.csv", 2, {}, false});
+  const auto path =
+      chooseFile(context_.base.ports,
+                 {FileDialog::Kind::save, "Export Data", "All Files (*.*)|*.*|CSV Files (*.csv)|*.csv", 2, {}, false});
   if (!path || path->empty()) return;
   const auto csv = csvOf(shown_);
   if (!csv) return tell({FailureKind::other, {}, noticeOf(graphEntry(shown_))});

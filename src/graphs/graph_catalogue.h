@@ -9,9 +9,9 @@
 namespace kestra {
 
 inline constexpr int kGraphs = 22;
-inline constexpr int kSpillwayGraph = 12;   // where the graphs of a spillway analysis begin
+inline constexpr int kSpillwayGraph = 12;      // where the graphs of a spillway analysis begin
 inline constexpr int kLowTailwaterGraph = 10;  // whose footer has a note
-inline constexpr int kHeadcutGraph = 17;    // which has a second canvas
+inline constexpr int kHeadcutGraph = 17;       // which has a second canvas
 
 // One of the output graphs.
 struct GraphEntry {

@@ -30,19 +30,19 @@ struct GraphRequest {
 
 using GraphReader = Reading (*)(const GraphRequest&);
 
-Reading DrawHydrographs(const GraphRequest& graph);      // graph 0
-Reading DrawHeadGraph(const GraphRequest& graph);        // 1: column of the routing table
-Reading DrawHydrograph(const GraphRequest& graph);       // 2, 20: column of the routing table
-Reading DrawProfileGraph(const GraphRequest& graph);     // 3
-Reading DrawStressGraph(const GraphRequest& graph);      // 4
-Reading DrawDamGraph(const GraphRequest& graph);         // 5
-Reading DrawStructureGraph(const GraphRequest& graph);   // 6, 7: column 4 area, 3 volume
-Reading DrawRatingGraph(const GraphRequest& graph);      // 8, 21: column 2 principal spillway, 8 tailwater
-Reading DrawAuxRatingGraph(const GraphRequest& graph);   // 9
-Reading DrawAllRatingGraph(const GraphRequest& graph);   // 10
-Reading DrawDischargeGraph(const GraphRequest& graph);   // 11
-Reading DrawHCTgraph(const GraphRequest& graph);         // 18: column of the headcut history, fields of ten
-Reading DrawBREgraph(const GraphRequest& graph);         // 19: column of the breach history, fields of ten
+Reading DrawHydrographs(const GraphRequest& graph);     // graph 0
+Reading DrawHeadGraph(const GraphRequest& graph);       // 1: column of the routing table
+Reading DrawHydrograph(const GraphRequest& graph);      // 2, 20: column of the routing table
+Reading DrawProfileGraph(const GraphRequest& graph);    // 3
+Reading DrawStressGraph(const GraphRequest& graph);     // 4
+Reading DrawDamGraph(const GraphRequest& graph);        // 5
+Reading DrawStructureGraph(const GraphRequest& graph);  // 6, 7: column 4 area, 3 volume
+Reading DrawRatingGraph(const GraphRequest& graph);     // 8, 21: column 2 principal spillway, 8 tailwater
+Reading DrawAuxRatingGraph(const GraphRequest& graph);  // 9
+Reading DrawAllRatingGraph(const GraphRequest& graph);  // 10
+Reading DrawDischargeGraph(const GraphRequest& graph);  // 11
+Reading DrawHCTgraph(const GraphRequest& graph);        // 18: column of the headcut history, fields of ten
+Reading DrawBREgraph(const GraphRequest& graph);        // 19: column of the breach history, fields of ten
 
 // What the readers share.
 enum class Fit {

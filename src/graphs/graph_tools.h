@@ -56,8 +56,8 @@ class GraphToolHost {
 
 inline constexpr int kLeftButton = 1;
 
-// The tools of a graph screen: return to the whole graph, zoom by a rubber band, drag, pan, read a point. All places are
-// in units of the canvas.
+// The tools of a graph screen: return to the whole graph, zoom by a rubber band, drag, pan, read a point. All places
+// are in units of the canvas.
 class GraphTools {
  public:
   static constexpr int kMostGraphs = 23;

@@ -29,8 +29,7 @@ std::optional<double> lowestCrest(RunReader reader) {
   constexpr int kElevation = 21;
   if (!reader.findRecord("CRESTPRFL")) return std::nullopt;
   double lowest = std::numeric_limits<double>::infinity();
-  const int rows =
-      reader.tableRows([&](const RunRow& row) { lowest = std::min(lowest, echoField(row, kElevation)); });
+  const int rows = reader.tableRows([&](const RunRow& row) { lowest = std::min(lowest, echoField(row, kElevation)); });
   return rows > 0 ? std::optional(lowest) : std::nullopt;
 }
 
@@ -61,8 +60,8 @@ void addBreach(const RunFiles& run, SeriesStore& series) {
   RunReader reader(text.value());
   reader.skip(kHeadings);
   const int line = series.addSeries("Breach");
-  const int rows = reader.rows(
-      [&](const RunRow& row) { series.add(line, row.number(1, kWidth), row.number(kElevation, kField)); });
+  const int rows =
+      reader.rows([&](const RunRow& row) { series.add(line, row.number(1, kWidth), row.number(kElevation, kField)); });
   if (rows == 0) --series.SeriesCount;
 }
 

@@ -14,7 +14,7 @@ constexpr double kUsualWidth = 688;
 constexpr double kUsualHeight = 440;
 
 // The points of a line that the columns of a picture need.
-QPolygonF thinned(const QPolygonF& line, int columns) {
+QPolygonF thinned(const QPolygonF& line, int width, int columns) {
   if (line.size() <= columns) return line;
   Series series;
   for (const QPointF& point : line) {
@@ -22,7 +22,7 @@ QPolygonF thinned(const QPolygonF& line, int columns) {
     series.PlotY.push_back(static_cast<float>(point.y()));
   }
   QPolygonF out;
-  for (const int i : pointsForColumns(series, 0, columns, columns)) out.append(line[i]);
+  for (const int i : pointsForColumns(series, 0, width, columns)) out.append(line[i]);
   return out;
 }
 
@@ -42,8 +42,8 @@ QFont fontFor(double points, bool bold, double scale) {
   return font;
 }
 
-CanvasPainter::CanvasPainter(QPainter& painter, PictureSize size, bool raster)
-    : painter_(painter), size_(size), raster_(raster), scale_(pictureScale(size)) {}
+CanvasPainter::CanvasPainter(QPainter& painter, PictureSize size, int columns, bool raster)
+    : painter_(painter), size_(size), columns_(columns), raster_(raster), scale_(pictureScale(size)) {}
 
 QColor CanvasPainter::color(std::uint32_t value) {
   return {static_cast<int>(value & 0xFFU), static_cast<int>(value >> 8U & 0xFFU),
@@ -116,7 +116,7 @@ void CanvasPainter::flush() {
   if (line_.isEmpty()) return;
   if (state_.drawMode != kInvertMode) {
     painter_.setPen(pen(state_.drawStyle, state_.drawWidth));
-    painter_.drawPolyline(thinned(line_, size_.width));
+    painter_.drawPolyline(thinned(line_, size_.width, columns_));
   }
   line_.clear();
 }

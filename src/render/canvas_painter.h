@@ -21,8 +21,9 @@ QFont fontFor(double points, bool bold, double scale);
 // can show.
 class CanvasPainter {
  public:
-  // `raster`: the painter works on pixels, which can be inverted; elsewhere what inverts is left out.
-  CanvasPainter(QPainter& painter, PictureSize size, bool raster);
+  // Lines are thinned for so many columns. `raster`: the painter works on pixels, which can be inverted; elsewhere what
+  // inverts is left out.
+  CanvasPainter(QPainter& painter, PictureSize size, int columns, bool raster);
 
   void draw(const CanvasLog& log);
 
@@ -39,6 +40,7 @@ class CanvasPainter {
 
   QPainter& painter_;
   PictureSize size_;
+  int columns_;
   bool raster_;
   double scale_;
   CanvasState state_;

@@ -31,7 +31,7 @@ Result<std::string> paintImage(const CanvasLog& drawing, const char* form, Pictu
   image.setDotsPerMeterX(kDotsPerMeter);
   image.setDotsPerMeterY(kDotsPerMeter);
   QPainter painter(&image);
-  CanvasPainter(painter, size, true).draw(drawing);
+  CanvasPainter(painter, size, size.width, true).draw(drawing);
   painter.end();
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
@@ -49,27 +49,28 @@ Result<std::string> paintSvg(const CanvasLog& drawing, PictureSize size) {
   generator.setViewBox(QRect(0, 0, size.width, size.height));
   generator.setResolution(kPixelsPerInch);
   QPainter painter(&generator);
-  CanvasPainter(painter, size, false).draw(drawing);
+  CanvasPainter(painter, size, size.width, false).draw(drawing);
   painter.end();
   return bytesOf(buffer.data());
 }
 
 Result<std::string> paintPdf(const std::vector<const CanvasLog*>& drawings, PictureSize size) {
   constexpr int kDotsPerInch = 1200;
+  constexpr int kFiner = 4;  // columns a pixel: a page is looked at closely
   constexpr double kPointsPerPixel = 72.0 / kPixelsPerInch;
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
   writer.setResolution(kDotsPerInch);
-  writer.setPageSize(QPageSize(QSizeF(size.width, size.height) * kPointsPerPixel, QPageSize::Point, {},
-                               QPageSize::ExactMatch));
+  writer.setPageSize(
+      QPageSize(QSizeF(size.width, size.height) * kPointsPerPixel, QPageSize::Point, {}, QPageSize::ExactMatch));
   writer.setPageMargins(QMarginsF());
   writer.setCreator(QStringLiteral("Kestra B"));
   QPainter painter(&writer);
   painter.scale(static_cast<double>(kDotsPerInch) / kPixelsPerInch, static_cast<double>(kDotsPerInch) / kPixelsPerInch);
   for (std::size_t i = 0; i < drawings.size(); ++i) {
     if (i > 0) writer.newPage();
-    CanvasPainter(painter, size, false).draw(*drawings[i]);
+    CanvasPainter(painter, size, kFiner * size.width, false).draw(*drawings[i]);
   }
   painter.end();
   return bytesOf(buffer.data());

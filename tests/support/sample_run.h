@@ -41,10 +41,10 @@ struct SampleRun {
                      echoed({"DWNSTREAM", "2.5"});
   std::string crest = echoed({"CRESTPRFL"}) + echoed({"", "0", "1026"}) + echoed({"", "100", "1024"}) +
                       echoed({"", "250", "1025"}) + " ENDTABLE\n";
-  std::string tailwater = echoed({"TAILWATER"}) + echoed({"", "1000", "0"}) + echoed({"", "1003", "400"}) +
-                          " ENDTABLE\n";
-  std::string spillways = echoed({"ASRATING", "1Bywash", "0"}) + " ENDTABLE\n" +
-                          echoed({"ASSURFACE", "2West", "3"}) + " ENDTABLE\n";
+  std::string tailwater =
+      echoed({"TAILWATER"}) + echoed({"", "1000", "0"}) + echoed({"", "1003", "400"}) + " ENDTABLE\n";
+  std::string spillways =
+      echoed({"ASRATING", "1Bywash", "0"}) + " ENDTABLE\n" + echoed({"ASSURFACE", "2West", "3"}) + " ENDTABLE\n";
   std::string ratings = " Spillway and Overtop Discharge Rating\n elevation\n (ft)\n" +
                         fieldRow({1000, 0, 0, 0, 0, 0, 0}, 12) + fieldRow({1020, 150, 40, 20, 0, 0, 210}, 12) +
                         fieldRow({1026, 180, 300, 90, 0, 700, 1270}, 12) + "\n";
@@ -52,7 +52,7 @@ struct SampleRun {
                         listingRow(1, {1000, 0, 0, 0.5, 0, 0.5}) + listingRow(2, {1026, 0, 0, 16, 150, 16}) + "\n";
   std::string crestLine = "DAM CREST ELEVATION " + rightField(1024, 10) + "\n";
   std::vector<std::vector<double>> routing = {{0, 10, 1, 0, 0, 0, 0, 1, 1016, 1016, 1000},
-                                              {1.5, 900, 60, 20, 5, 0, 40, 125, 1024.5, 1024.5, 1002},
+                                              {1.5, 990, 60, 20, 5, 0, 40, 125, 1024.5, 1024.5, 1002},
                                               {4, 100, 50, 10, 0, 0, 0, 60, 1022, 1022, 1001.5}};
   std::string stress = "                   Stress on Vegetated Embankment Slope\n a\n b\n c\n d\n" +
                        stressRow({0, 0, 0, 0, 0, 0, 0}) + stressRow({1.5, 12.5, 3, 80.5, 1.25, 4, 120}) + "\n";
@@ -97,7 +97,8 @@ struct SampleRun {
   }
 
   std::string bre = " Breach\n hr\n" + breRow(1.5, 0, 1024, 0, 0, 0) + breRow(1.5, 0, 1024, 0, 0, 0) +
-                    breRow(1.5, 0, 1024, 0, 0, 0) + breRow(2, 300, 1020, 4, 15.5, 25) + breRow(3, 900, 1004, 2, 42.5, 21);
+                    breRow(1.5, 0, 1024, 0, 0, 0) + breRow(2, 300, 1020, 4, 15.5, 25) +
+                    breRow(3, 900, 1004, 2, 42.5, 21);
   static std::string breRow(double time, double q, double sill, double shear, double width, double unit) {
     return rightField(time, 10) + "  " + fieldRow({q, sill, shear, width, unit}, 12);
   }
