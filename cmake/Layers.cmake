@@ -1,16 +1,16 @@
 # The floors of the house, lowest first: a module may use what its row names and nothing else. A folder that stands on
 # two floors holds two modules. The include lint (cmake/include_lint.py) reads the same rows from the layer report.
-set(KESTRA_CORE base platform controls records results distributions graphics state)
+set(KESTRA_CORE base platform graphics controls records results distributions state)
 set(KESTRA_MIDDLE ${KESTRA_CORE} screens control graphs summary tools)
 
 set(KESTRA_ROW_base)
 set(KESTRA_ROW_platform base)
 set(KESTRA_ROW_native base platform)
-set(KESTRA_ROW_controls base platform)
+set(KESTRA_ROW_graphics base platform)
+set(KESTRA_ROW_controls base platform graphics)
 set(KESTRA_ROW_records base platform)
 set(KESTRA_ROW_results base platform)
 set(KESTRA_ROW_distributions base platform)
-set(KESTRA_ROW_graphics base platform)
 set(KESTRA_ROW_state base platform)
 set(KESTRA_ROW_screens ${KESTRA_CORE})
 set(KESTRA_ROW_summary ${KESTRA_CORE} screens)

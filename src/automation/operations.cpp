@@ -58,6 +58,7 @@ const std::vector<Operation>& operations() {
     append(all, resultsOperations());
     append(all, runOperations());
     append(all, summaryOperations());
+    append(all, graphOperations());
     return all;
   }();
   return kOperations;

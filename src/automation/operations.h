@@ -36,6 +36,7 @@ struct Operation {
 };
 
 // The operations of the system that scripts can call, by family.
+std::vector<Operation> graphOperations();
 std::vector<Operation> hydrographOperations();
 std::vector<Operation> recordOperations();
 std::vector<Operation> resultsOperations();

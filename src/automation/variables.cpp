@@ -4,6 +4,7 @@
 #include <map>
 
 #include "automation/aux_values.h"
+#include "automation/graph_values.h"
 #include "automation/summary_values.h"
 #include "base/numbers.h"
 
@@ -42,7 +43,8 @@ Reader fromSummary(Json (*describe)(const SummaryStore&)) {
 
 const std::map<std::string, Reader>& readers() {
   using State = ApplicationState;
-  static const std::map<std::string, Reader> kReaders = {
+  static const std::map<std::string, Reader> kReaders = [] {
+    std::map<std::string, Reader> all = {
       {"projectDir", fromState(&State::projectDir)},
       {"currentFile", fromState(&State::currentFile)},
       {"fileDirty", fromState(&State::fileDirty)},
@@ -85,7 +87,10 @@ const std::map<std::string, Reader>& readers() {
       {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
       {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
       {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},
-  };
+    };
+    all.merge(graphVariables());
+    return all;
+  }();
   return kReaders;
 }
 

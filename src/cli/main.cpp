@@ -4,6 +4,10 @@
 #include "automation/driver.h"
 #include "base/paths.h"
 #include "cli/file_work.h"
+#include "cli/graph_command.h"
+#include "cli/native_desk.h"
+#include "cli/options.h"
+#include "cli/pictures.h"
 #include "cli/summary_text.h"
 #include "cli/terminal_session.h"
 
@@ -32,12 +36,23 @@ int drive(const CliOptions& options) {
   NativeDesk desk(options);
   Conversation conversation(std::cerr);
   Application application(desk.ports(conversation, conversation, conversation), desk.applicationDirectory());
+  const auto pictures = makePictures();
+  application.shell.graphs.context.pictures = pictures.get();
+  application.shell.graphs.context.printer = &desk.printer();
   Driver driver(application, conversation);
   application.shell.startUp(options.controlFile);
   if (application.shell.ended()) return kFailed;
   driver.run(std::cin, std::cout);
   if (!application.shell.ended()) application.shell.end();
   return 0;
+}
+
+int graph(const CliOptions& options) {
+  TerminalSession session(options);
+  const auto pictures = makePictures();
+  session.application.shell.graphs.context.pictures = pictures.get();
+  session.application.shell.startUp("");
+  return drawGraphs(session.application, options, std::cout, std::cerr);
 }
 
 int run(int argc, char** argv) {
@@ -53,6 +68,8 @@ int run(int argc, char** argv) {
       return checkFiles(*options);
     case CliCommand::summary:
       return printSummary(*options);
+    case CliCommand::graph:
+      return graph(*options);
     case CliCommand::drive:
       break;
   }

@@ -72,6 +72,11 @@ Result<std::string> FaultyFileSystem::read(const std::string& path, std::uint64_
   return inner_.read(path, limit);
 }
 
+Result<std::string> FaultyFileSystem::readStart(const std::string& path, std::uint64_t most) {
+  if (const Failure* f = fault("readStart", path)) return *f;
+  return inner_.readStart(path, most);
+}
+
 Result<std::vector<DirectoryEntry>> FaultyFileSystem::list(const std::string& path) {
   if (const Failure* f = fault("list", path)) return *f;
   return inner_.list(path);

@@ -50,6 +50,8 @@ class FileSystem {
   virtual Result<FileStatus> linkStatus(const std::string& path) = 0;  // of the link itself
   // The whole file; tooLarge above `limit` bytes; wrongType for a directory or a device.
   virtual Result<std::string> read(const std::string& path, std::uint64_t limit) = 0;
+  // The first `most` bytes of a file, or all of a shorter one; fails as read does, but never for the size.
+  virtual Result<std::string> readStart(const std::string& path, std::uint64_t most) = 0;
   virtual Result<std::vector<DirectoryEntry>> list(const std::string& path) = 0;  // sorted by name, without . and ..
   virtual Result<std::string> canonical(const std::string& path) = 0;             // absolute, links resolved
 

@@ -99,15 +99,28 @@ Result<FileStatus> MemoryFileSystem::linkStatus(const std::string& path) {
   return statusOf(*place.value().node);
 }
 
-Result<std::string> MemoryFileSystem::read(const std::string& path, std::uint64_t limit) {
-  note("read", path);
+Result<const std::string*> MemoryFileSystem::bytesOf(const std::string& path) const {
   const Result<Place> place = find(path, true);
   if (!place) return place.failure();
   const Node& node = *place.value().node;
   if (!node.readable) return denied(path);
   if (node.type == Type::directory) return aDirectory(path);
-  if (node.bytes.size() > limit) return Failure{FailureKind::tooLarge, path, "File too large"};
-  return node.bytes;
+  return &node.bytes;
+}
+
+Result<std::string> MemoryFileSystem::read(const std::string& path, std::uint64_t limit) {
+  note("read", path);
+  const auto bytes = bytesOf(path);
+  if (!bytes) return bytes.failure();
+  if (bytes.value()->size() > limit) return Failure{FailureKind::tooLarge, path, "File too large"};
+  return *bytes.value();
+}
+
+Result<std::string> MemoryFileSystem::readStart(const std::string& path, std::uint64_t most) {
+  note("readStart", path);
+  const auto bytes = bytesOf(path);
+  if (!bytes) return bytes.failure();
+  return bytes.value()->substr(0, most);
 }
 
 Result<std::vector<DirectoryEntry>> MemoryFileSystem::list(const std::string& path) {

@@ -33,6 +33,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       commands(fileDesk, projects, applicationDirectory),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
+      graphs(context, lines),
       context_(context),
       applicationDirectory_(applicationDirectory) {
   ScreenHost& host = context_.host;
@@ -54,6 +55,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   }
   topScreen.onEnd = [this] { end(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
+  topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
     topScreen.windows().shown(screen);
     topScreen.windows().FindFormToBuildItems();
@@ -65,6 +67,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   input.enterAll(host);
   host.enter(output);
   host.enter(progress);
+  graphs.enterAll(host);
   for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);
   host.setHistory(&history);
 }

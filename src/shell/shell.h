@@ -5,6 +5,7 @@
 #include "control/control_files.h"
 #include "controls/undo_history.h"
 #include "graphics/line_settings.h"
+#include "graphs/graph_screens.h"
 #include "screens/input_screen_set.h"
 #include "screens/screen_context.h"
 #include "screens/text_screen.h"
@@ -40,6 +41,7 @@ class Shell {
 
   FieldCatalogues catalogues;
   LineSettings lines;
+  GraphScreens graphs;
 
   // Starts the application, `commandLine` being what stands behind the program's name: nothing, or the path of a
   // control file, in double quotes or not; a single character is ignored. A file whose directory is no project ends the

@@ -79,6 +79,23 @@ Result<std::string> readUpTo(const Descriptor& file, const std::string& path, st
   return bytes;
 }
 
+// A regular file that is open for reading, and its size.
+struct OpenFile {
+  Descriptor file;
+  std::uint64_t size = 0;
+};
+
+Result<OpenFile> openRegular(const std::string& path) {
+  // Without waiting for the other end, should it be a pipe.
+  Result<Descriptor> file = openBy(path, O_RDONLY | O_NONBLOCK);
+  if (!file) return file.failure();
+  struct stat found = {};
+  if (::fstat(file.value().number(), &found) != 0) return systemFailure(path);
+  if (S_ISDIR(found.st_mode)) return failureOf(EISDIR, path);
+  if (!S_ISREG(found.st_mode)) return Failure{FailureKind::wrongType, path, "Not a regular file"};
+  return OpenFile{std::move(file).value(), static_cast<std::uint64_t>(found.st_size)};
+}
+
 Type entryType(int directory, const dirent& entry) {
   if (entry.d_type == DT_REG) return Type::file;
   if (entry.d_type == DT_DIR) return Type::directory;
@@ -131,17 +148,21 @@ Result<FileStatus> PosixFileSystem::linkStatus(const std::string& path) {
 }
 
 Result<std::string> PosixFileSystem::read(const std::string& path, std::uint64_t limit) {
-  // Without waiting for the other end, should it be a pipe.
-  const Result<Descriptor> file = openBy(path, O_RDONLY | O_NONBLOCK);
-  if (!file) return file.failure();
-  struct stat found = {};
-  if (::fstat(file.value().number(), &found) != 0) return systemFailure(path);
-  if (S_ISDIR(found.st_mode)) return failureOf(EISDIR, path);
-  if (!S_ISREG(found.st_mode)) return Failure{FailureKind::wrongType, path, "Not a regular file"};
-  const auto size = static_cast<std::uint64_t>(found.st_size);
-  if (size > limit) return failureOf(EFBIG, path);
-  Result<std::string> bytes = readUpTo(file.value(), path, size, limit);
+  const Result<OpenFile> open = openRegular(path);
+  if (!open) return open.failure();
+  if (open.value().size > limit) return failureOf(EFBIG, path);
+  Result<std::string> bytes = readUpTo(open.value().file, path, open.value().size, limit);
   if (bytes && bytes.value().size() > limit) return failureOf(EFBIG, path);
+  return bytes;
+}
+
+Result<std::string> PosixFileSystem::readStart(const std::string& path, std::uint64_t most) {
+  const Result<OpenFile> open = openRegular(path);
+  if (!open) return open.failure();
+  Result<std::string> read = readUpTo(open.value().file, path, std::min(open.value().size, most), most);
+  if (!read) return read;
+  std::string bytes = std::move(read).value();
+  bytes.resize(std::min<std::uint64_t>(bytes.size(), most));
   return bytes;
 }
 

@@ -177,6 +177,19 @@ TYPED_TEST_P(FileSystemContract, readsNoMoreThanTheLimit) {
   EXPECT_TRUE(failed(files.read(this->at("ten"), 0), FailureKind::tooLarge, "File too large"));
 }
 
+TYPED_TEST_P(FileSystemContract, readsTheStartOfAFile) {
+  this->put("ten", "0123456789");
+  this->putDirectory("d");
+  FileSystem& files = this->scene.files;
+  for (const auto& [most, bytes] : {std::pair(0U, ""), std::pair(4U, "0123"), std::pair(99U, "0123456789")}) {
+    const auto start = files.readStart(this->at("ten"), most);
+    ASSERT_TRUE(succeeded(start));
+    EXPECT_EQ(start.value(), bytes);
+  }
+  EXPECT_TRUE(failed(files.readStart(this->at("d"), 4), FailureKind::wrongType, "Is a directory"));
+  EXPECT_TRUE(failed(files.readStart(this->at("no"), 4), FailureKind::notFound, "No such file or directory"));
+}
+
 TYPED_TEST_P(FileSystemContract, tellsTypeSizeAndWhetherAFileMayBeWritten) {
   this->put("a", "12345");
   this->putDirectory("d");
@@ -393,7 +406,7 @@ TYPED_TEST_P(FileSystemContract, makesTheDirectoriesThatAreMissing) {
 REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, readsBackAnyBytes, takesAnyNameThatTheSystemAllows,
                             worksOnPathsBeyond260Characters, tellsWhatIsNotThereFromEveryOtherFailure,
                             refusesWhatIsOfTheWrongType, refusesNamesThatNoFileCanHave, createsOnlyWhatIsNew,
-                            appendsToWhatStandsThereOrBegins, readsNoMoreThanTheLimit,
+                            appendsToWhatStandsThereOrBegins, readsNoMoreThanTheLimit, readsTheStartOfAFile,
                             tellsTypeSizeAndWhetherAFileMayBeWritten, listsSortedByBytesAndDoesNotFollowLinks,
                             resolvesLinksAndDots, renamesOverAFile, removesFilesEmptyDirectoriesAndLinksThemselves,
                             countsRelativePathsFromTheCurrentDirectory, givesALockToOneAtATime, hasTheRootAmongItsRoots,

@@ -1,0 +1,137 @@
+#include "render/qt_pictures.h"
+
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMarginsF>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include "render/canvas_painter.h"
+
+namespace kestra {
+namespace {
+
+constexpr int kPixelsPerInch = 96;
+
+Failure failure(const char* reason) {
+  return {FailureKind::other, {}, reason};
+}
+
+std::string bytesOf(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+Result<std::string> paintImage(const CanvasLog& drawing, const char* form, PictureSize size) {
+  QImage image(size.width, size.height, QImage::Format_RGB32);
+  if (image.isNull()) return failure("The picture is too large for the memory");
+  constexpr int kDotsPerMeter = 3780;
+  image.setDotsPerMeterX(kDotsPerMeter);
+  image.setDotsPerMeterY(kDotsPerMeter);
+  QPainter painter(&image);
+  CanvasPainter(painter, size, size.width, true).draw(drawing);
+  painter.end();
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  // Graphs are few lines on one colour: a light compression makes them hardly larger and is several times as quick.
+  constexpr int kLightCompression = 80;
+  if (!image.save(&buffer, form, kLightCompression)) return failure("The picture could not be encoded");
+  return bytesOf(buffer.data());
+}
+
+Result<std::string> paintSvg(const CanvasLog& drawing, PictureSize size) {
+  QBuffer buffer;
+  QSvgGenerator generator;
+  generator.setOutputDevice(&buffer);
+  generator.setSize({size.width, size.height});
+  generator.setViewBox(QRect(0, 0, size.width, size.height));
+  generator.setResolution(kPixelsPerInch);
+  QPainter painter(&generator);
+  CanvasPainter(painter, size, size.width, false).draw(drawing);
+  painter.end();
+  return bytesOf(buffer.data());
+}
+
+Result<std::string> paintPdf(const std::vector<const CanvasLog*>& drawings, PictureSize size) {
+  constexpr int kDotsPerInch = 1200;
+  constexpr int kFiner = 4;  // columns a pixel: a page is looked at closely
+  constexpr double kPointsPerPixel = 72.0 / kPixelsPerInch;
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setResolution(kDotsPerInch);
+  writer.setPageSize(
+      QPageSize(QSizeF(size.width, size.height) * kPointsPerPixel, QPageSize::Point, {}, QPageSize::ExactMatch));
+  writer.setPageMargins(QMarginsF());
+  writer.setCreator(QStringLiteral("Kestra B"));
+  QPainter painter(&writer);
+  painter.scale(static_cast<double>(kDotsPerInch) / kPixelsPerInch, static_cast<double>(kDotsPerInch) / kPixelsPerInch);
+  for (std::size_t i = 0; i < drawings.size(); ++i) {
+    if (i > 0) writer.newPage();
+    CanvasPainter(painter, size, kFiner * size.width, false).draw(*drawings[i]);
+  }
+  painter.end();
+  return bytesOf(buffer.data());
+}
+
+}  // namespace
+
+// The Qt application that painting texts needs, on a platform without a display.
+struct QtPictures::Toolkit {
+  std::string name = "kestra";
+  std::string option = "-platform";
+  std::string platform = "offscreen";
+  std::array<char*, 4> words = {name.data(), option.data(), platform.data(), nullptr};
+  int count = 3;
+  QGuiApplication application{count, words.data()};
+};
+
+class QtPictures::Metrics : public TextMetrics {
+ public:
+  explicit Metrics(PictureSize size) : size_(size) {}
+  TextSize measure(std::string_view text, double fontSize, bool bold) const override {
+    const QFontMetricsF metrics(fontFor(fontSize, bold, pictureScale(size_)));
+    const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return {metrics.horizontalAdvance(shown) / size_.width, metrics.height() / size_.height};
+  }
+
+ private:
+  PictureSize size_;
+};
+
+QtPictures::QtPictures() = default;
+QtPictures::~QtPictures() = default;
+
+void QtPictures::start() {
+  if (QCoreApplication::instance() == nullptr) toolkit_ = std::make_unique<Toolkit>();
+}
+
+Result<std::string> QtPictures::make(const std::vector<const CanvasLog*>& drawings, PictureForm form,
+                                     PictureSize size) {
+  const auto fits = [](int pixels) { return pixels >= 1 && pixels <= kMostPixels; };
+  if (!fits(size.width) || !fits(size.height)) return failure("The size of a picture is from 1 to 20000 pixels");
+  if (drawings.empty()) return failure("There is nothing to draw");
+  if (drawings.size() > 1 && form != PictureForm::pdf) return failure("Only a PDF holds several drawings");
+  start();
+  switch (form) {
+    case PictureForm::png:
+      return paintImage(*drawings.front(), "PNG", size);
+    case PictureForm::bmp:
+      return paintImage(*drawings.front(), "BMP", size);
+    case PictureForm::svg:
+      return paintSvg(*drawings.front(), size);
+    case PictureForm::pdf:
+      return paintPdf(drawings, size);
+  }
+  return failure("There is no such form of picture");
+}
+
+const TextMetrics& QtPictures::metrics(PictureSize size) {
+  start();
+  metrics_ = std::make_unique<Metrics>(size);
+  return *metrics_;
+}
+
+}  // namespace kestra
