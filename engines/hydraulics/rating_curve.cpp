@@ -15,6 +15,12 @@ RatingCurve::RatingCurve(std::vector<double> elevations, std::vector<double> dis
   for (double& value : values_) value = std::cbrt(value * value);
 }
 
+double RatingCurve::lowestFlow() const {
+  std::size_t i = 0;
+  while (i + 2 < values_.size() && values_[i + 1] <= 0) ++i;
+  return elevations_[i];
+}
+
 double RatingCurve::at(double elevation) const {
   if (empty() || elevation <= elevations_.front()) return 0;
   const std::size_t i = intervalOf(elevations_, elevation);

@@ -16,8 +16,10 @@ class RatingCurve {
 
   bool empty() const { return elevations_.size() < 2; }
   double at(double elevation) const;
-  double lowest() const { return elevations_.front(); }  // these two not for an empty curve
+  // Not for an empty curve: its ends, and where the flow begins, the last row without a discharge.
+  double lowest() const { return elevations_.front(); }
   double highest() const { return elevations_.back(); }
+  double lowestFlow() const;
   const std::vector<double>& elevations() const { return elevations_; }
 
  private:
