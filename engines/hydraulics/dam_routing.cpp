@@ -107,7 +107,6 @@ class Routing {
     if (result_.erosion.size() >= kMostErosionRows) return;
     ErosionRow row = to.erosion.row();
     row.timeHours = to.hours;
-    if (!march_.overDam(state_, to)) row.unitDischarge = 0;
     result_.erosion.push_back(row);
   }
 

@@ -42,7 +42,8 @@ double PoolMarch::poolAt(const PoolState& from, double hours, const DamErosion& 
 }
 
 bool PoolMarch::overDam(const PoolState& a, const PoolState& b) const {
-  return std::max(a.pool, b.pool) > input_.outlets.crest.lowest() || a.erosion.breachWidth() > 0;
+  const bool wet = std::max(a.pool, b.pool) > input_.outlets.crest.lowest();
+  return wet || a.erosion.breachWidth() > 0 || a.erosion.row().unitDischarge > 0;
 }
 
 DamErosion PoolMarch::eroded(const PoolState& from, double hours, double pool, const OutletFlows& flows) const {

@@ -28,7 +28,7 @@ class PoolMarch {
   // pool would cross.
   PoolState step(const PoolState& from, double limit);
 
-  // Whether water runs over the dam in one of two moments, so that it may wear it.
+  // Whether water runs over the dam in one of two moments, or has run until the first, so that it may wear it.
   bool overDam(const PoolState& a, const PoolState& b) const;
   double inflow(double hours) const { return input_.inflow.at(hours); }
   long steps() const { return steps_; }  // tried, accepted or not
