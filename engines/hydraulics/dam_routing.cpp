@@ -17,8 +17,8 @@ constexpr double kRising = 1e-4;       // ft from row to row
 constexpr double kOvertopped = 1e-6;   // ft
 constexpr std::size_t kMostErosionRows = 15000;
 constexpr double kErosionRowShare = 1.0 / 16;  // of the rows' spacing, between rows of a growing breach
-constexpr long kStepsToBegin = 200000;
-constexpr long kStepsAPoint = 100;
+constexpr long kStepsToBegin = 30000;
+constexpr long kStepsAPoint = 30;
 
 bool sameTime(double a, double b, double spacing) {
   return std::fabs(a - b) < 1e-6 * spacing;
@@ -66,6 +66,7 @@ class Routing {
       if (next != points.end() && *next < hours && !sameTime(*next, hours, input_.rowHours)) limit = *next;
       PoolState to = march_.step(state_, limit);
       noteErosion(to);
+      noteTarget(to);
       state_ = std::move(to);
       notePeaks();
       noteTables();
@@ -158,13 +159,15 @@ class Routing {
     const double spacing = std::max(input_.rowHours, input_.drawdown->hours / kRows);
     addRow(drawdown.rows);
     while (!drawdown.reached && state_.hours < last) {
-      const PoolState before = state_;
       if (!marchTo(std::min(state_.hours + spacing, last))) return;
       addRow(drawdown.rows);
-      if (state_.pool > drawdown.targetElevation) continue;
-      const double part = (before.pool - drawdown.targetElevation) / (before.pool - state_.pool);
-      drawdown.reached = before.hours + part * (state_.hours - before.hours);
     }
+  }
+
+  void noteTarget(const PoolState& to) {
+    if (!result_.drawdown || result_.drawdown->reached || to.pool > result_.drawdown->targetElevation) return;
+    const double part = (state_.pool - result_.drawdown->targetElevation) / (state_.pool - to.pool);
+    result_.drawdown->reached = state_.hours + part * (to.hours - state_.hours);
   }
 
   void finish() {

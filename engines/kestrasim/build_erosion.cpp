@@ -103,7 +103,7 @@ DamErosionInput buildErosion(const DamModel& dam, const CrestOverflow& crest, do
   input.breach = dam.options.analysis == Analysis::breach && isTold(dam.headcut, messages);
   if (input.breach) fillSoil(*dam.headcut, input.soil, messages);
   for (const ClippedValue& clipped : clipToComputable(input)) {
-    messages.warning({}, fmt::format("{} {} is out of range", clipped.name, shown(clipped.given)),
+    messages.warning({}, fmt::format("{} {} is beyond computing", clipped.name, shown(clipped.given)),
                      fmt::format("{} is taken", shown(clipped.used)));
   }
   return input;

@@ -31,10 +31,16 @@ std::vector<StorageRow> rowsWithVolume(ReservoirTable& table, RunMessages& messa
       const StorageRow& before = filled.back();
       next.volume = before.volume + 0.5 * (before.area + next.area) * (next.elevation - before.elevation);
     }
-    if (!filled.empty() && next.volume < filled.back().volume) {
-      messages.warning(rowOf(row), fmt::format("the volume {} falls", shown(next.volume)),
-                       fmt::format("{} is taken", shown(filled.back().volume)));
-      next.volume = filled.back().volume;
+    if (!filled.empty() && next.volume <= filled.back().volume) {
+      // A floor without water under the first volume is no part of the reservoir.
+      const bool floor = filled.size() == 1 && next.volume == filled.back().volume;
+      messages.warning(
+          rowOf(floor ? kept.back() : row),
+          floor ? "the volume is that of the next row" : fmt::format("the volume {} does not rise", shown(next.volume)),
+          "the row is left out");
+      if (!floor) continue;
+      filled.pop_back();
+      kept.pop_back();
     }
     filled.push_back(next);
     kept.push_back(row);
@@ -80,10 +86,6 @@ std::optional<ReservoirTable> buildStorage(const StructureRecord& structure, Run
     return std::nullopt;
   }
   table.basis = basisOf(table.rows);
-  if (rows.back().volume <= rows.front().volume) {
-    messages.error(place, "the reservoir holds nothing", "nothing is routed");
-    return std::nullopt;
-  }
   if (table.basis == StorageBasis::both) tellMismatch(rows, table, messages);
   table.storage = StageStorage(rows, table.basis);
   return table;

@@ -12,10 +12,9 @@ void RunMessages::error(const Place& place, const std::string& what, const std::
 void RunMessages::add(const std::string& severity, const Place& place, const std::string& what,
                       const std::string& done) {
   if (++ofRecord_[place.record] > kMostOfARecord) return;
-  std::string where;
-  if (!place.record.empty()) where = fmt::format(" ({}", place.record);
-  if (place.line > 0) where += fmt::format(", line {}", place.line);
-  if (!where.empty()) where += ")";
+  std::string where = place.record;
+  if (place.line > 0) where += fmt::format("{}line {}", where.empty() ? "" : ", ", place.line);
+  if (!where.empty()) where = " (" + where + ")";
   lines_.push_back(fmt::format("***** {} - {}{}: {}", severity, what, where, done));
 }
 
