@@ -24,6 +24,8 @@ set(KESTRA_ROW_app ${KESTRA_MIDDLE} integrity run shell)
 set(KESTRA_ROW_automation ${KESTRA_MIDDLE} run shell app)
 set(KESTRA_ROW_render ${KESTRA_MIDDLE} run shell app)
 set(KESTRA_ROW_cli ${KESTRA_MIDDLE} integrity run shell app native automation render)
+set(KESTRA_ROW_hydraulics base)
+set(KESTRA_ROW_kestrasim base platform native records hydraulics)
 set(KESTRA_ROW_desktop ${KESTRA_MIDDLE} run shell app native automation render)
 
 # kestra_module(NAME FOLDER folder SOURCES ... HEADERS ... USES modules... [LIBRARIES targets...])

@@ -1,0 +1,61 @@
+#include "kestrasim/dam_engine.h"
+
+#include <fmt/format.h>
+
+#include "kestrasim/dam_report.h"
+#include "kestrasim/given_or.h"
+#include "kestrasim/history_files.h"
+#include "kestrasim/read_dam.h"
+
+namespace kestra {
+namespace {
+
+constexpr double kBalance = 1e-3;  // of the inflow, from which a difference of the volumes is told
+
+void tellRouting(const RoutingResult& result, RunMessages& messages) {
+  const auto at = [](const std::optional<double>& hours) { return fmt::format("at {} hours", shown(*hours)); };
+  if (result.leftStorageTable) {
+    messages.warning({"STRUCTURE"}, "the pool rose above the storage table " + at(result.leftStorageTable),
+                     "the last area goes on above it");
+  }
+  if (result.ranDry) {
+    messages.warning({"STRUCTURE"}, "the pool came down to the lowest row " + at(result.ranDry), "it stays there");
+  }
+  if (result.leftTailwaterTable) {
+    messages.warning({"TAILWATER"}, "the outflow rose beyond the table " + at(result.leftTailwaterTable),
+                     "the last elevation stays");
+  }
+  if (result.balanceError() > kBalance) {
+    messages.warning({}, fmt::format("the volumes differ by {} of the inflow", shown(result.balanceError())),
+                     "a shorter time increment will help");
+  }
+  if (result.end == RoutingEnd::rowLimit) {
+    messages.warning({}, "the routing table is full", "the routing ends there");
+  }
+  if (result.end == RoutingEnd::stepLimit) {
+    messages.error({}, "the routing takes too many steps", "it ends where the table ends");
+  }
+}
+
+}  // namespace
+
+DamFiles runDam(std::string_view controlText) {
+  RunMessages messages;
+  const std::vector<ControlRun> runs = readControlRecords(controlText);
+  const DamModel dam = readDam(runs, messages);
+  const std::optional<DamRun> run = buildRun(dam, messages);
+  DamFiles files;
+  if (!run) {
+    files.report = damReport({runs, dam, messages});
+    return files;
+  }
+  const RoutingResult result = routeDam(run->routing);
+  tellRouting(result, messages);
+  files.report = damReport({runs, dam, messages, &*run, &result});
+  if (!run->routing.erosion.breach) return files;
+  files.headcut = headcutHistory(result);
+  if (result.overtoppingBegins) files.breach = breachHistory(result, run->routing.outlets.crest.lowest());
+  return files;
+}
+
+}  // namespace kestra
