@@ -258,7 +258,7 @@ class MainRunReader {
     eachRow(record, place_, [&](int column, std::string_view line) {
       if (column >= table.columns()) throw RuntimeFault("more rows than the table holds");
       const FieldTexts texts = takeApartRow(*record.layout, line);
-      for (std::size_t i = 0; i < texts.size() && texts[i].reached(); ++i) {
+      for (std::size_t i = 0; i < texts.size(); ++i) {
         const std::string_view text = texts[i].raw == kCrest ? kCrest : texts[i].text();
         table.setCell(static_cast<int>(i) + 1, column, std::string(text));
       }

@@ -119,7 +119,8 @@ class SpillwayRunReader {
     std::vector<MaterialRow> rows;
     eachRow(record, place_, [&](int, std::string_view line) {
       if (rows.size() == kMaterialSlots - 1) throw RuntimeFault("more rows than the table holds");
-      rows.push_back({numberIn(fieldText(*record.layout, line, "number"), kMaterialSlots - 1), line, place_.line});
+      const std::string_view number = takeApartRow(*record.layout, line).named("number").text();
+      rows.push_back({numberIn(number, kMaterialSlots - 1), line, place_.line});
     });
     const std::array<std::string_view, 2> fills = {record.fields.named("topsoil fill").text(),
                                                    record.fields.named("general fill").text()};

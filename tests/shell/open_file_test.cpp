@@ -41,6 +41,17 @@ TEST_F(Open, takesAFileOfTheProjectIntoTheScreens) {
   EXPECT_EQ(desk.dialogs.shownFiles[0].filter, "All Files(*.*)|*.*|Kestra KSC Files Only|*.KSC");
 }
 
+TEST_F(Open, closesTheOtherWindows) {
+  Screen graph{"frmGraphTest", "Graph"};
+  desk.app.host.enter(graph);
+  desk.shell.topScreen.windows().enter(WindowSlot::outputGraph, graph, nullptr);
+  desk.shell.topScreen.windows().AddData(3);
+  desk.app.host.show(graph);
+  desk.open("/home/dam/pond.KSC");
+  EXPECT_FALSE(graph.loaded());
+  EXPECT_FALSE(desk.state.windowOpen[3]);
+}
+
 TEST_F(Open, keepsTheMainRunAsItWasRead) {
   desk.open("/home/dam/pond.KSC");
   EXPECT_EQ(desk.shell.controlFiles.texts.controlText, "KESTRA    01/01/2009Pond\r\nENDRUN\r\n");

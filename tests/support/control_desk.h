@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,6 +42,12 @@ struct ControlDesk : InputDesk {
     return screens.context.aux.auxMaterials.at(static_cast<std::size_t>(spillway));
   }
 };
+
+// The name of a case as that of its test.
+template <class Case>
+std::string caseName(const testing::TestParamInfo<Case>& info) {
+  return info.param.name;
+}
 
 // Lines without their ends.
 inline std::vector<std::string> linesOf(std::string_view text) {
