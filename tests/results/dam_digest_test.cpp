@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+
+#include "base/text.h"
 #include "platform/faulty_file_system.h"
 #include "platform/memory_file_system.h"
+#include "results/dam_output_reader.h"
 #include "support/dam_output.h"
 #include "support/result_matchers.h"
 
@@ -23,6 +28,20 @@ TEST(DigestLine, isTheFieldCutToTenCharacters) {
                 {"     1234567.25 ", "1234567.25"},
                 {"Größenklasse 12", "Größenklas"}};
   for (const auto& each : kCases) EXPECT_EQ(digestLine(each.field), each.line) << each.field;
+}
+
+TEST(DigestsPage, beginsItsExampleAsTheOutputGivesIt) {
+  const std::string output =
+      joinLines({echo({"KESTRA", "01/01/2009"}) + "Larkmoor upper dam", echo({"PSpINLET", "0.5", "12", "1004"}),
+                 echo({"ASSURFACE", "2EAST"}), echo({"", "60", "1010.5"}), echo({"ENDTABLE"}), echo({"CRESTPRFL"}),
+                 echo({"", "10.5", "1012"}), echo({"", "810.75", "1013"}), echo({"ENDTABLE"}), echo({"HYD", "STORM A"}),
+                 echo({"", "", "12.5", "148.26"}), echo({"ENDTABLE"}), echo({"STROUTE", "1003"})});
+  std::string lines;
+  const DigestFields fields = readDamOutput(output);
+  for (std::size_t i = 0; i < 10; ++i) lines.append(trim(digestLine(fields[i]))).append("\n");
+  std::ifstream file(std::string(KESTRA_SOURCE_DIR) + "/docs/formats/digests.md", std::ios::binary);
+  const std::string page{std::istreambuf_iterator<char>(file), {}};
+  EXPECT_NE(page.find("```\n" + lines + "```\n"), std::string::npos) << lines;
 }
 
 struct ParseDamOutputTest : testing::Test {

@@ -66,8 +66,10 @@ Result<std::string> readUpTo(const Descriptor& file, const std::string& path, st
   std::string bytes;
   std::uint64_t used = 0;
   while (used <= limit) {
-    const std::uint64_t room = std::max(used == 0 ? expected + 1 : used, kStep);
-    bytes.resize(std::min(used + room, limit + 1));
+    if (used == bytes.size()) {
+      const std::uint64_t room = std::max(used == 0 ? expected + 1 : used, kStep);
+      bytes.resize(std::min(used + room, limit + 1));
+    }
     const ssize_t count = untilDone([&] { return ::read(file.number(), bytes.data() + used, bytes.size() - used); });
     if (count < 0) return systemFailure(path);
     if (count == 0) break;
