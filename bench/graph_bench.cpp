@@ -138,8 +138,8 @@ void gnuplot(benchmark::State& state, const std::string& form) {
 // The whole program, the import of its library included; run by hand it prints the time of a plot alone.
 void matplotlib(benchmark::State& state, const std::string& form) {
   peer(state, [&form](const std::string& at) {
-    return std::vector<std::string>{"/usr/bin/python3", KESTRA_BENCH_DIR "/graph_peer.py", at + "/data", at + "/out." + form,
-                                    "1"};
+    return std::vector<std::string>{"/usr/bin/python3", KESTRA_BENCH_DIR "/graph_peer.py", at + "/data",
+                                    at + "/out." + form, "1"};
   });
 }
 

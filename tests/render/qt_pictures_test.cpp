@@ -54,7 +54,8 @@ TEST_F(Pictures, areTheSameAsPngAndAsBitmap) {
   for (const PictureSize size : {PictureSize{1, 1}, {3, 2}, {200, 100}, {641, 333}}) {
     const std::string bitmap = bytes(PictureForm::bmp, size);
     const QByteArray raw(bitmap.data(), static_cast<qsizetype>(bitmap.size()));
-    EXPECT_EQ(image(size).convertToFormat(QImage::Format_RGB32), QImage::fromData(raw).convertToFormat(QImage::Format_RGB32));
+    EXPECT_EQ(image(size).convertToFormat(QImage::Format_RGB32),
+              QImage::fromData(raw).convertToFormat(QImage::Format_RGB32));
   }
 }
 
@@ -106,10 +107,12 @@ TEST_F(Pictures, haveABandThatWipesItselfOut) {
 
 TEST_F(Pictures, showLinesBoxesPointsCirclesAndTexts) {
   const QImage empty = image();
-  const std::function<void()> drawings[] = {
-      [this] { canvas.Line(0, 0, 100, 50); },  [this] { canvas.Box(10, 10, 20, 20); },
-      [this] { canvas.PSet(50, 25); },         [this] { canvas.Circle(50, 25, 10, kRed); },
-      [this] { canvas.Circle(50, 25, 0, kRed); }, [this] { canvas.Print("x"); }};
+  const std::function<void()> drawings[] = {[this] { canvas.Line(0, 0, 100, 50); },
+                                            [this] { canvas.Box(10, 10, 20, 20); },
+                                            [this] { canvas.PSet(50, 25); },
+                                            [this] { canvas.Circle(50, 25, 10, kRed); },
+                                            [this] { canvas.Circle(50, 25, 0, kRed); },
+                                            [this] { canvas.Print("x"); }};
   for (const auto& draw : drawings) {
     canvas.Cls();
     draw();
