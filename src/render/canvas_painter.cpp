@@ -115,10 +115,25 @@ void CanvasPainter::addLine(const std::array<double, 4>& ends) {
 void CanvasPainter::flush() {
   if (line_.isEmpty()) return;
   if (state_.drawMode != kInvertMode) {
-    painter_.setPen(pen(state_.drawStyle, state_.drawWidth));
-    painter_.drawPolyline(thinned(line_, size_.width, columns_));
+    const QPen ink = pen(state_.drawStyle, state_.drawWidth);
+    // What is closer together than half the pen's width is under its ink.
+    const int columns = static_cast<int>(columns_ / std::max(1.0, ink.widthF() / 2));
+    drawPolyline(thinned(line_, size_.width, std::max(1, columns)), ink);
   }
   line_.clear();
+}
+
+// A long line on pixels is drawn in pieces that overlap by their caps: the time for a wide one grows with the square of
+// its length.
+void CanvasPainter::drawPolyline(const QPolygonF& line, QPen ink) {
+  constexpr qsizetype kPiece = 16;
+  const bool whole = !raster_ || ink.style() != Qt::SolidLine || line.size() <= kPiece;
+  if (!whole) ink.setCapStyle(Qt::RoundCap);
+  painter_.setPen(ink);
+  const qsizetype step = whole ? line.size() : kPiece;
+  for (qsizetype at = 0; at + 1 < line.size(); at += step) {
+    painter_.drawPolyline(line.constData() + at, static_cast<int>(std::min(step + 1, line.size() - at)));
+  }
 }
 
 // A circle too small to be seen is a dot.

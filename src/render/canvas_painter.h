@@ -32,6 +32,7 @@ class CanvasPainter {
   void takeState(const CanvasCall& call);
   void addLine(const std::array<double, 4>& ends);
   void flush();
+  void drawPolyline(const QPolygonF& line, QPen ink);
   QPen pen(int style, int width) const;
   QPointF place(double x, double y) const;
   void drawCircle(const CanvasCall& call);

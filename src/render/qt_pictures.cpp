@@ -10,6 +10,7 @@
 #include <QSvgGenerator>
 
 #include "render/canvas_painter.h"
+#include "render/png_file.h"
 
 namespace kestra {
 namespace {
@@ -24,7 +25,7 @@ std::string bytesOf(const QByteArray& bytes) {
   return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-Result<std::string> paintImage(const CanvasLog& drawing, const char* form, PictureSize size) {
+Result<std::string> paintImage(const CanvasLog& drawing, PictureForm form, PictureSize size) {
   QImage image(size.width, size.height, QImage::Format_RGB32);
   if (image.isNull()) return failure("The picture is too large for the memory");
   constexpr int kDotsPerMeter = 3780;
@@ -33,11 +34,10 @@ Result<std::string> paintImage(const CanvasLog& drawing, const char* form, Pictu
   QPainter painter(&image);
   CanvasPainter(painter, size, size.width, true).draw(drawing);
   painter.end();
+  if (form == PictureForm::png) return bytesOf(pngFile(image));
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  // Graphs are few lines on one colour: a light compression makes them hardly larger and is several times as quick.
-  constexpr int kLightCompression = 80;
-  if (!image.save(&buffer, form, kLightCompression)) return failure("The picture could not be encoded");
+  if (!image.save(&buffer, "BMP")) return failure("The picture could not be encoded");
   return bytesOf(buffer.data());
 }
 
@@ -76,10 +76,23 @@ Result<std::string> paintPdf(const std::vector<const CanvasLog*>& drawings, Pict
   return bytesOf(buffer.data());
 }
 
+// While it lives Qt keeps its warnings to itself: starting without a desktop session brings some.
+class QtSilence {
+ public:
+  QtSilence() : before_(qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {})) {}
+  ~QtSilence() { qInstallMessageHandler(before_); }
+  QtSilence(const QtSilence&) = delete;
+  QtSilence& operator=(const QtSilence&) = delete;
+
+ private:
+  QtMessageHandler before_;
+};
+
 }  // namespace
 
 // The Qt application that painting texts needs, on a platform without a display.
 struct QtPictures::Toolkit {
+  QtSilence silence;
   std::string name = "kestra";
   std::string option = "-platform";
   std::string platform = "offscreen";
@@ -117,9 +130,8 @@ Result<std::string> QtPictures::make(const std::vector<const CanvasLog*>& drawin
   start();
   switch (form) {
     case PictureForm::png:
-      return paintImage(*drawings.front(), "PNG", size);
     case PictureForm::bmp:
-      return paintImage(*drawings.front(), "BMP", size);
+      return paintImage(*drawings.front(), form, size);
     case PictureForm::svg:
       return paintSvg(*drawings.front(), size);
     case PictureForm::pdf:
