@@ -186,6 +186,7 @@ TEST(DamErosion, doesNothingInAStepWithoutLengthOrWater) {
   EXPECT_EQ(numbersOf(erosion), before);
   erosion.advance({0, 1, kNaN, kNaN, kNaN, kNaN});
   erosion.advance({1, 1, kInfinite, -kInfinite, kInfinite, kInfinite});
+  erosion.advance({2, 1, 129, -1000, 0, 5});
   EXPECT_FALSE(erosion.eroding());
   EXPECT_EQ(erosion.row().slope.stressTime, 0);
 }
