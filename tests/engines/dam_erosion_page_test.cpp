@@ -101,7 +101,7 @@ std::string picture() {
     y += 36;
   }
   return svg +
-         textAt("150", 300, "cfs: documented (black), energy form (blue), stress form (orange); ring: middling soil") +
+         textAt("10", 300, "cfs: documented (black), energy form (blue), stress form (orange); ring: middling soil") +
          "</svg>\n";
 }
 
