@@ -27,7 +27,7 @@ bool holdsWord(std::string_view text, std::string_view word) {
 
 void requireFigures(std::string_view text, std::string_view given) {
   for (const char* word : {"nan", "inf"}) {
-    fuzzRequire(!holdsWord(text, word) || holdsWord(given, word), "every figure is a number");
+    fuzzRequire(!holdsWord(text, word) || given.find(word) != std::string_view::npos, "every figure is a number");
   }
 }
 
