@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "hydraulics/pool_step.h"
+#include "hydraulics/roots.h"
 #include "hydraulics/units.h"
 
 namespace kestra {
@@ -112,15 +113,14 @@ PoolState PoolMarch::cutAtCrest(const PoolState& from, PoolState to) const {
   const auto first = std::ranges::lower_bound(crests_, low);
   if (first == crests_.end() || *first >= high) return to;
   const double crest = rises ? *first : *(std::ranges::lower_bound(crests_, high) - 1);
-  double shorter = 0;
-  double longer = to.hours - from.hours;
-  constexpr int kMost = 40;
-  for (int i = 0; i < kMost; ++i) {
-    const double hours = 0.5 * (shorter + longer);
-    to = twoHalves(from, hours);
-    if (std::fabs(to.pool - crest) <= kSameElevation) break;
-    ((to.pool < crest) == rises ? shorter : longer) = hours;
-  }
+  const auto beyond = [&](double hours) {
+    if (hours > 0) to = twoHalves(from, hours);
+    const double above = (hours > 0 ? to.pool : from.pool) - crest;
+    if (std::fabs(above) <= kSameElevation) return 0.0;
+    return rises ? above : -above;
+  };
+  const double longest = to.hours - from.hours;
+  solveIncreasing(beyond, 0.0, longest, 1e-12 * longest);
   return to;
 }
 
