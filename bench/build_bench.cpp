@@ -18,7 +18,8 @@
 namespace kestra {
 namespace {
 
-constexpr const char* kRecords = "QUIL      02/09/20021         Way\r\nLHS       1\r\nPK\r\nENDTABLE\r\nENDJOB\r\nENDRUN\r\n";
+constexpr const char* kRecords =
+    "QUIL      02/09/20021         Way\r\nLHS       1\r\nPK\r\nENDTABLE\r\nENDJOB\r\nENDRUN\r\n";
 
 // Gives as many copies of the records as are asked for.
 class Copies : public Sampling {
@@ -31,8 +32,7 @@ class Copies : public Sampling {
   HydrographCheck checkHydrograph(const std::string&) override { return {}; }
   bool drawSamples(const std::string&, bool, int) override { return true; }
   bool readSamples(const std::string&, int) override { return true; }
-  bool writeInstances(const std::string& base, const std::string& records, bool, const HydrographCheck&,
-                      int) override {
+  bool writeInstances(const std::string& base, const std::string& records, bool, const HydrographCheck&, int) override {
     for (int k = 0; k < count_; ++k) std::ofstream(base + "_" + std::to_string(k) + ".V2D") << records;
     return true;
   }

@@ -17,6 +17,7 @@ void write(const std::string& path, const char* text) {
 int main(int count, char** arguments) {
   const std::string given = count > 1 ? arguments[count - 1] : "";
   const std::string stem = given.substr(0, given.rfind('.'));
-  write(stem + ".OUT", "Hydrograph Routing\n (hr)\n ---\n         0         1         2\n         1         1         2\n");
+  write(stem + ".OUT",
+        "Hydrograph Routing\n (hr)\n ---\n         0         1         2\n         1         1         2\n");
   write(stem + ".DIS", "a\nb\nc\nd\n");
 }
