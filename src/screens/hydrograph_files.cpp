@@ -36,6 +36,10 @@ std::vector<std::string> textsOf(const std::vector<HydrographRow>& rows, std::st
   return texts;
 }
 
+bool holdsFlows(const std::vector<HydrographRow>& rows) {
+  return std::any_of(rows.begin(), rows.end(), [](const HydrographRow& row) { return !trim(row.flow).empty(); });
+}
+
 bool holdsPoints(const std::vector<HydrographRow>& rows) {
   const auto filled = [](const HydrographRow& row) { return !trim(row.time).empty() || !trim(row.flow).empty(); };
   return std::any_of(rows.begin(), rows.end(), filled);
@@ -107,7 +111,7 @@ void HydrographFiles::importClocked(const Menu& command, ClockedReader read) {
   if (!file) return;
   const auto hydrograph = read(file->text, pointsOf(screen_.varTable));
   if (!hydrograph) return warn("File Import Error", "Invalid tab-delimited Rivex File");
-  if (hydrograph->rows.empty() && hydrograph->fault.empty()) return warn(file->trap, kNoHydrograph);
+  if (!holdsFlows(hydrograph->rows) && hydrograph->fault.empty()) return warn(file->trap, kNoHydrograph);
   takeVariable(hydrograph->rows);
   if (tellFault(*file, hydrograph->fault)) return;
   for (const int column : {kHydrographTime, kHydrographFlow}) screen_.varTable.setRightAligned(column, true);
@@ -178,7 +182,7 @@ void HydrographFiles::importTorve() {
 
 void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
   const VhyHydrograph hydrograph = readVhy(file.text, code, kVhyColumn, kMostHydrographPoints);
-  if (hydrograph.rows.empty()) {
+  if (!holdsFlows(hydrograph.rows)) {
     if (!tellFault(file, hydrograph.fault)) warn(file.trap, kNoPoints);
     return;
   }
@@ -226,8 +230,10 @@ void HydrographFiles::write(const std::string& path, std::string_view text) {
   if (!written) warn("Export File Error", written.failure().path + ": " + written.failure().reason);
 }
 
-// Only a hydrograph at constant steps has this form; the user is asked for a name all the same.
 void HydrographFiles::exportThy() {
+  if (!screen_.optConst.selected()) {
+    return warn("Export File Error", "Only a hydrograph with a constant time increment can be exported in this form.");
+  }
   Ports& ports = context_.base.ports;
   auto path = chooseFile(ports, {FileDialog::Kind::save, "Save File", kThyFilter, 2, {}, false});
   if (!path) return;
@@ -238,7 +244,7 @@ void HydrographFiles::exportThy() {
                      BoxIcon::warning);
     path = joinPath(directory, "torve.THY");
   }
-  if (screen_.optConst.selected()) SaveTable(*path);
+  SaveTable(*path);
 }
 
 void HydrographFiles::exportTab() {

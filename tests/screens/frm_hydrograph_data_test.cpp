@@ -305,8 +305,9 @@ TEST_F(HydrographData, checksFieldsAgainBehindAnUndo) {
   setIncrement("0.5");
   screen.mnuUndo.click();
   EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+  EXPECT_EQ(screen.txtConst.text(), "1");
   screen.txtConst.userLeave();
-  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "5", "10"}));
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
 }
 
 }  // namespace

@@ -239,6 +239,27 @@ TEST_F(HydrographImportFaults, areToldOfFilesThatEndBeforeTheirData) {
   }
 }
 
+TEST_F(HydrographImportFaults, areToldOfRowsWithoutAnyDischargeWhichChangeNothing) {
+  struct Case {
+    Menu& command;
+    std::string text;
+    const char* box;
+  };
+  for (const auto& [command, text, box] :
+       {Case{menu.mnuImportBasix, "Storm\n----------\n06/01/2001 23:30\n06/01/2001 23:45\t \n",
+             "Import BASIX File Error: The file holds no hydrograph."},
+        Case{menu.mnuImportRivex, "Storm\n1\t01Jan2001, 2350\n2\t02Jan2001, 0010\t-\n",
+             "Import RIVEX File Error: The file holds no hydrograph."},
+        Case{menu.mnuImportTorve, "31\n            2\n 2\n 2.5\n5\nENDTABLE\n",
+             "Import TORVE File Error: The record holds no points."}}) {
+    import(command, text);
+    EXPECT_EQ(takeBoxes(), Texts{box});
+    EXPECT_EQ(fields(), (Texts{"1", "7", "old"})) << box;
+    EXPECT_EQ(screen.grdTable.cell(1, 1) + screen.varTable.cell(1, 0), "99") << box;
+    EXPECT_TRUE(screen.optConst.selected()) << box;
+  }
+}
+
 TEST_F(HydrographImportFaults, areToldOfATextWithoutRowsWhichEmptiesTheTable) {
   for (const char* text : {"", "\n\n", "Time\tFlow\n", "\t\n"}) {
     screen.selectForm(true);
