@@ -7,9 +7,9 @@
 #include <QMarginsF>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 
-#include "render/canvas_painter.h"
+#include "graphics/svg_file.h"
+#include "render/painter_brush.h"
 #include "render/png_file.h"
 
 namespace kestra {
@@ -32,25 +32,13 @@ Result<std::string> paintImage(const CanvasLog& drawing, PictureForm form, Pictu
   image.setDotsPerMeterX(kDotsPerMeter);
   image.setDotsPerMeterY(kDotsPerMeter);
   QPainter painter(&image);
-  CanvasPainter(painter, size, size.width, true).draw(drawing);
+  PainterBrush brush(painter, true);
+  replay(drawing, size, size.width, brush);
   painter.end();
   if (form == PictureForm::png) return bytesOf(pngFile(image));
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   if (!image.save(&buffer, "BMP")) return failure("The picture could not be encoded");
-  return bytesOf(buffer.data());
-}
-
-Result<std::string> paintSvg(const CanvasLog& drawing, PictureSize size) {
-  QBuffer buffer;
-  QSvgGenerator generator;
-  generator.setOutputDevice(&buffer);
-  generator.setSize({size.width, size.height});
-  generator.setViewBox(QRect(0, 0, size.width, size.height));
-  generator.setResolution(kPixelsPerInch);
-  QPainter painter(&generator);
-  CanvasPainter(painter, size, size.width, false).draw(drawing);
-  painter.end();
   return bytesOf(buffer.data());
 }
 
@@ -68,9 +56,10 @@ Result<std::string> paintPdf(const std::vector<const CanvasLog*>& drawings, Pict
   writer.setCreator(QStringLiteral("Kestra B"));
   QPainter painter(&writer);
   painter.scale(static_cast<double>(kDotsPerInch) / kPixelsPerInch, static_cast<double>(kDotsPerInch) / kPixelsPerInch);
+  PainterBrush brush(painter, false);
   for (std::size_t i = 0; i < drawings.size(); ++i) {
     if (i > 0) writer.newPage();
-    CanvasPainter(painter, size, kFiner * size.width, false).draw(*drawings[i]);
+    replay(*drawings[i], size, kFiner * size.width, brush);
   }
   painter.end();
   return bytesOf(buffer.data());
@@ -105,7 +94,7 @@ class QtPictures::Metrics : public TextMetrics {
  public:
   explicit Metrics(PictureSize size) : size_(size) {}
   TextSize measure(std::string_view text, double fontSize, bool bold) const override {
-    const QFontMetricsF metrics(fontFor(fontSize, bold, pictureScale(size_)));
+    const QFontMetricsF metrics(fontFor(letterSize(fontSize, pictureScale(size_)), bold));
     const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     return {metrics.horizontalAdvance(shown) / size_.width, metrics.height() / size_.height};
   }
@@ -133,7 +122,7 @@ Result<std::string> QtPictures::make(const std::vector<const CanvasLog*>& drawin
     case PictureForm::bmp:
       return paintImage(*drawings.front(), form, size);
     case PictureForm::svg:
-      return paintSvg(*drawings.front(), size);
+      return svgFile(*drawings.front(), size);
     case PictureForm::pdf:
       return paintPdf(drawings, size);
   }

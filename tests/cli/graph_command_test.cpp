@@ -4,26 +4,12 @@
 
 #include <sstream>
 
+#include "support/fake_pictures.h"
 #include "support/sample_run.h"
 #include "support/scripted_desk.h"
 
 namespace kestra {
 namespace {
-
-// Pictures that tell their form, size and how many drawings they hold.
-struct FakePictures : PictureMaker {
-  Result<std::string> make(const std::vector<const CanvasLog*>& drawings, PictureForm form, PictureSize size) override {
-    if (fails) return Failure{FailureKind::other, {}, "no colours left"};
-    return "form " + std::to_string(static_cast<int>(form)) + ", " + std::to_string(size.width) + "x" +
-           std::to_string(size.height) + ", " + std::to_string(drawings.size());
-  }
-  const TextMetrics& metrics(PictureSize) override { return fixed; }
-  struct Fixed : TextMetrics {
-    TextSize measure(std::string_view text, double, bool) const override { return fixedTextSize(text); }
-  };
-  Fixed fixed;
-  bool fails = false;
-};
 
 struct GraphCommand : testing::Test, RunningDesk {
   GraphCommand() {
@@ -57,11 +43,11 @@ TEST(ASizeOfAPicture, isTwoNumbersOfPixels) {
 
 TEST_F(GraphCommand, drawsAGraphIntoAFile) {
   EXPECT_EQ(draw({0}), 0);
-  EXPECT_EQ(memory.content("/home/a.png"), "form 0, 1200x800, 1");
+  EXPECT_EQ(memory.content("/home/a.png"), "form 0, 1200x800, 1: Hydrographs 0 100 20");
   options.size = "30x20";
   options.format = "svg";
   EXPECT_EQ(draw({0}), 0);
-  EXPECT_EQ(memory.content("/home/a.png"), "form 1, 30x20, 1");
+  EXPECT_EQ(memory.content("/home/a.png"), "form 1, 30x20, 1: Hydrographs 0 100 200 ");
   EXPECT_EQ(out.str() + err.str(), "");
 }
 
@@ -79,7 +65,7 @@ TEST_F(GraphCommand, numbersTheFilesOfSeveralGraphs) {
 TEST_F(GraphCommand, putsSeveralGraphsIntoOnePdf) {
   options.output = "/home/a.PDF";
   EXPECT_EQ(draw({0, 3, 10}), 0);
-  EXPECT_EQ(memory.content("/home/a.PDF"), "form 2, 1200x800, 3");
+  EXPECT_EQ(memory.content("/home/a.PDF"), "form 2, 1200x800, 3: Hydrographs 0 100 20");
 }
 
 TEST_F(GraphCommand, writesToTheStandardOutput) {

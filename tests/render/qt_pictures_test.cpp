@@ -12,7 +12,7 @@
 
 #include "graphics/draw_frame.h"
 #include "graphics/draw_series.h"
-#include "render/canvas_painter.h"
+#include "render/painter_brush.h"
 
 namespace kestra {
 namespace {
@@ -159,7 +159,8 @@ bool isPlain(const QImage& shown, int x, int y) {
 QImage painted(const CanvasLog& log, PictureSize size, int columns) {
   QImage image(size.width, size.height, QImage::Format_RGB32);
   QPainter painter(&image);
-  CanvasPainter(painter, size, columns, true).draw(log);
+  PainterBrush brush(painter, true);
+  replay(log, size, columns, brush);
   painter.end();
   return image;
 }
