@@ -119,12 +119,10 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
     exitCode = tellHelp(grammar, out, err);
     return std::nullopt;
   }
-  const std::pair<const CLI::App*, CliCommand> commands[] = {{grammar.newProject, CliCommand::newProject},
-                                                             {grammar.build, CliCommand::build},
-                                                             {grammar.check, CliCommand::check},
-                                                             {grammar.summary, CliCommand::summary},
-                                                             {grammar.graph, CliCommand::graph},
-                                                             {grammar.drive, CliCommand::drive}};
+  const std::pair<const CLI::App*, CliCommand> commands[] = {
+      {grammar.newProject, CliCommand::newProject}, {grammar.build, CliCommand::build},
+      {grammar.check, CliCommand::check},           {grammar.summary, CliCommand::summary},
+      {grammar.graph, CliCommand::graph},           {grammar.drive, CliCommand::drive}};
   for (const auto& [word, command] : commands) {
     if (!word->parsed()) continue;
     if (command == CliCommand::graph && !options.list && options.graphs.empty()) {
