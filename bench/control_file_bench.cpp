@@ -1,5 +1,5 @@
-// A control file of 5,000 hydrograph points and three spillways of 100 materials: opened and built by the system, cut and
-// padded field by field by the plain loops that one would write, and counted by `wc -l` as the floor.
+// A control file of 5,000 hydrograph points and three spillways of 100 materials: opened and built by the system, cut
+// and padded field by field by the plain loops that one would write, and counted by `wc -l` as the floor.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -76,7 +76,8 @@ Fields plainRead(const std::string& text) {
   while (std::getline(file, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     std::vector<std::string>& fields = lines.emplace_back();
-    for (std::size_t column = 0; column < line.size(); column += 10) fields.push_back(plainTrim(line.substr(column, 10)));
+    for (std::size_t column = 0; column < line.size(); column += 10)
+      fields.push_back(plainTrim(line.substr(column, 10)));
   }
   return lines;
 }

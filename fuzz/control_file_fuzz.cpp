@@ -1,5 +1,5 @@
-// Any bytes as a control file of a project: opening it never fails, tells at most a few boxes, and what the screens then
-// hold is written, and opened again, to the same text.
+// Any bytes as a control file of a project: opening it never fails, tells at most a few boxes, and what the screens
+// then hold is written, and opened again, to the same text.
 #include <array>
 #include <string>
 #include <string_view>
@@ -40,7 +40,8 @@ struct ProjectDesk : InputDesk {
 
 // A drawdown says that the dam does not breach, whatever else was chosen: only then the text may change once.
 bool speaksForItself(const InputScreenSet& screens) {
-  return !(screens.hydrographData.chk10daydrawdown.checked() && screens.projectInformation.optBreachAnalysis.selected());
+  return !(screens.hydrographData.chk10daydrawdown.checked() &&
+           screens.projectInformation.optBreachAnalysis.selected());
 }
 
 // Every record of a kind of run with a value in each field, and two rows where it has a table.

@@ -33,13 +33,13 @@ TEST_F(ControlFileOperations, buildWriteCompareAndReadAFile) {
 }
 
 TEST_F(ControlFileOperations, buildAndReadTheRunOfASpillway) {
-  expect({{"{'do':'call','name':'ReadSpillwayRun','args':['BTMWIDTH  FEET      50\\r\\n',1]}", kDone},
-          {"{'do':'call','name':'BuildAuxRunText','args':[1,'dam.KSC']}", kDone},
-          {"{'do':'call','name':'WriteSpillwayRun','args':[0,'dam.KSC']}", kDone},
-          {"{'do':'call','name':'BuildAuxRunText','args':[3,'dam.KSC']}",
-           "{'ok':false,'error':'subscript out of range'}"},
-          {"{'do':'variable','name':'auxRunText(2)'}", "{'ok':true,'value':''}"},
-          {"{'do':'variable','name':'workText'}", "{'ok':true,'value':''}"}});
+  expect(
+      {{"{'do':'call','name':'ReadSpillwayRun','args':['BTMWIDTH  FEET      50\\r\\n',1]}", kDone},
+       {"{'do':'call','name':'BuildAuxRunText','args':[1,'dam.KSC']}", kDone},
+       {"{'do':'call','name':'WriteSpillwayRun','args':[0,'dam.KSC']}", kDone},
+       {"{'do':'call','name':'BuildAuxRunText','args':[3,'dam.KSC']}", "{'ok':false,'error':'subscript out of range'}"},
+       {"{'do':'variable','name':'auxRunText(2)'}", "{'ok':true,'value':''}"},
+       {"{'do':'variable','name':'workText'}", "{'ok':true,'value':''}"}});
   EXPECT_NE(desk.tell("{'do':'variable','name':'auxRunText(1)'}").find("BTMWIDTH  FEET      50"), std::string::npos);
   EXPECT_NE(desk.tell("{'do':'variable','name':'auxRunText(0)'}").find("QUIL      02/09/20021"), std::string::npos);
 }

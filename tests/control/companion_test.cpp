@@ -67,24 +67,35 @@ void hood(InputScreenSet& s) {
 INSTANTIATE_TEST_SUITE_P(
     Fields, HiddenField,
     testing::Values(
-        TextCase{"riprapOfAnEarthSlope", nothing, [](InputScreenSet& s) -> TextBox& { return s.damSurface.txtRiprapD50; }},
+        TextCase{"riprapOfAnEarthSlope", nothing,
+                 [](InputScreenSet& s) -> TextBox& { return s.damSurface.txtRiprapD50; }},
         TextCase{"coverOfABareSlope", [](InputScreenSet& s) { s.projectInformation.optBare.setSelected(true); },
                  [](InputScreenSet& s) -> TextBox& { return s.damSurface.txtDownVCF; }},
-        TextCase{"strengthOfTheOtherModel", nothing, [](InputScreenSet& s) -> TextBox& { return s.properties.txtUndrainedShear; }},
+        TextCase{"strengthOfTheOtherModel", nothing,
+                 [](InputScreenSet& s) -> TextBox& { return s.properties.txtUndrainedShear; }},
         TextCase{"modelWithoutBreach", noBreach, [](InputScreenSet& s) -> TextBox& { return s.properties.txtKd; }},
-        TextCase{"elevationOfADrawdownThatIsNotChosen", noBreach, [](InputScreenSet& s) -> TextBox& { return s.hydrographData.txtDrawdownElevation; }},
-        TextCase{"stepOfTheOtherForm", nothing, [](InputScreenSet& s) -> TextBox& { return s.hydrographData.txtDesired; }},
-        TextCase{"heightOfACircularConduit", nothing, [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtHeight; }},
-        TextCase{"orificeOfASingleStage", nothing, [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtOrificeWidth; }},
-        TextCase{"lengthOfTheConduitBesideAHood", hood, [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtLengthOfConduit; }},
-        TextCase{"bendOfAStraightHood", hood, [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtElevationAtBend; }},
-        TextCase{"weirOfARiserBesideAHood", hood, [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtWeirInletCoefficient; }},
+        TextCase{"elevationOfADrawdownThatIsNotChosen", noBreach,
+                 [](InputScreenSet& s) -> TextBox& { return s.hydrographData.txtDrawdownElevation; }},
+        TextCase{"stepOfTheOtherForm", nothing,
+                 [](InputScreenSet& s) -> TextBox& { return s.hydrographData.txtDesired; }},
+        TextCase{"heightOfACircularConduit", nothing,
+                 [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtHeight; }},
+        TextCase{"orificeOfASingleStage", nothing,
+                 [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtOrificeWidth; }},
+        TextCase{"lengthOfTheConduitBesideAHood", hood,
+                 [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtLengthOfConduit; }},
+        TextCase{"bendOfAStraightHood", hood,
+                 [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtElevationAtBend; }},
+        TextCase{"weirOfARiserBesideAHood", hood,
+                 [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtWeirInletCoefficient; }},
         TextCase{"conduitBesideDischargesOfTheStructure",
                  [](InputScreenSet& s) { s.structureTable.grdTable.setCell(1, 2, "5"); },
                  [](InputScreenSet& s) -> TextBox& { return s.psConduit.txtManning; }},
         TextCase{"equationsWithoutAnAnalysis", nothing, [](InputScreenSet& s) -> TextBox& { return s.headcut.txta1; }},
-        TextCase{"labelOfASpillwayThatIsNotInUse", nothing, [](InputScreenSet& s) -> TextBox& { return s.auxSpillways.txtsway(2); }},
-        TextCase{"aFieldThatIsNeverOnShow", nothing, [](InputScreenSet& s) -> TextBox& { return s.damSurface.txtCSS; }}),
+        TextCase{"labelOfASpillwayThatIsNotInUse", nothing,
+                 [](InputScreenSet& s) -> TextBox& { return s.auxSpillways.txtsway(2); }},
+        TextCase{"aFieldThatIsNeverOnShow", nothing,
+                 [](InputScreenSet& s) -> TextBox& { return s.damSurface.txtCSS; }}),
     caseName<TextCase>);
 
 struct OptionCase {
@@ -109,14 +120,17 @@ TEST_P(HiddenOption, comesBack) {
 
 INSTANTIATE_TEST_SUITE_P(
     Options, HiddenOption,
-    testing::Values(
-        OptionCase{"modelWithoutBreach", noBreach, [](InputScreenSet& s) -> OptionButton& { return s.properties.optHcModel(2); }},
-        OptionCase{"typeOfConduitBesideDischargesOfTheStructure",
-                   [](InputScreenSet& s) { s.structureTable.grdTable.setCell(1, 2, "5"); },
-                   [](InputScreenSet& s) -> OptionButton& { return s.psType.optTwoRec; }},
-        OptionCase{"equationsWithoutAnAnalysis", nothing, [](InputScreenSet& s) -> OptionButton& { return s.headcut.optORLEN; }},
-        OptionCase{"unitOfADrawdownThatIsNotChosen", nothing, [](InputScreenSet& s) -> OptionButton& { return s.hydrographData.optFeet; }},
-        OptionCase{"analysisOfASpillwayThatIsNotInUse", nothing, [](InputScreenSet& s) -> OptionButton& { return s.auxSpillways.optQUIL(1); }}),
+    testing::Values(OptionCase{"modelWithoutBreach", noBreach,
+                               [](InputScreenSet& s) -> OptionButton& { return s.properties.optHcModel(2); }},
+                    OptionCase{"typeOfConduitBesideDischargesOfTheStructure",
+                               [](InputScreenSet& s) { s.structureTable.grdTable.setCell(1, 2, "5"); },
+                               [](InputScreenSet& s) -> OptionButton& { return s.psType.optTwoRec; }},
+                    OptionCase{"equationsWithoutAnAnalysis", nothing,
+                               [](InputScreenSet& s) -> OptionButton& { return s.headcut.optORLEN; }},
+                    OptionCase{"unitOfADrawdownThatIsNotChosen", nothing,
+                               [](InputScreenSet& s) -> OptionButton& { return s.hydrographData.optFeet; }},
+                    OptionCase{"analysisOfASpillwayThatIsNotInUse", nothing,
+                               [](InputScreenSet& s) -> OptionButton& { return s.auxSpillways.optQUIL(1); }}),
     caseName<OptionCase>);
 
 TEST(Companion, holdsRowsBehindABlankOne) {
@@ -322,19 +336,23 @@ TEST_P(OddCompanion, doesNoHarm) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, OddCompanion,
-    testing::Values(R"("controls":7)", R"("controls":{"frmDamSurface.txtUpSlope":7})", R"("controls":{"frmNone.txtUpSlope":"7"})",
-                    R"("controls":{"txtUpSlope":"7","":"7",".":"7"})", R"("controls":{"frmKestra.mnuNew":true})",
-                    R"("controls":{"frmDamSurface.txtUpSlope":{"hex":7}})", R"("controls":{"frmDamSurface.grdTable":"7"})",
-                    R"("options":{"a":"b"})", R"("options":[7,"frmDamSurface.txtUpSlope","frmNone.optUser"])", R"("tables":[])",
-                    R"("tables":{"frmDamSurface.txtUpSlope":[["7"]]})", R"("tables":{"frmPSRatingTable.grdTable":[7,[["7"]],{"a":"b"}]})",
-                    R"("spillways":"x")", R"("spillways":[7,null,[]])", R"("spillways":[{"profile":7,"materials":8}])",
-                    R"("spillways":[{"profile":{"points":7,"fills":["x",8],"hydroDist":[7]},"materials":[7]}])", R"("sampling":[7])",
-                    R"("sampling":{"totalInstances":7,"bRandomSample":"x"})", "7", "\"controls\""));
+    testing::Values(R"("controls":7)", R"("controls":{"frmDamSurface.txtUpSlope":7})",
+                    R"("controls":{"frmNone.txtUpSlope":"7"})", R"("controls":{"txtUpSlope":"7","":"7",".":"7"})",
+                    R"("controls":{"frmKestra.mnuNew":true})", R"("controls":{"frmDamSurface.txtUpSlope":{"hex":7}})",
+                    R"("controls":{"frmDamSurface.grdTable":"7"})", R"("options":{"a":"b"})",
+                    R"("options":[7,"frmDamSurface.txtUpSlope","frmNone.optUser"])", R"("tables":[])",
+                    R"("tables":{"frmDamSurface.txtUpSlope":[["7"]]})",
+                    R"("tables":{"frmPSRatingTable.grdTable":[7,[["7"]],{"a":"b"}]})", R"("spillways":"x")",
+                    R"("spillways":[7,null,[]])", R"("spillways":[{"profile":7,"materials":8}])",
+                    R"("spillways":[{"profile":{"points":7,"fills":["x",8],"hydroDist":[7]},"materials":[7]}])",
+                    R"("sampling":[7])", R"("sampling":{"totalInstances":7,"bRandomSample":"x"})", "7",
+                    "\"controls\""));
 
 TEST(OddCompanionText, isPassedOver) {
   ControlDesk desk;
   const std::string before = desk.build();
-  for (const std::string_view text : {"", "null", "[]", "{", "\xFF", "{\"digest\":7,\"options\":[\"frmPSType.optHood\"]}"}) {
+  for (const std::string_view text :
+       {"", "null", "[]", "{", "\xFF", "{\"digest\":7,\"options\":[\"frmPSType.optHood\"]}"}) {
     giveBackCompanion(desk.screens, desk.base, text, "");
     EXPECT_EQ(desk.build(), before) << text;
   }

@@ -13,8 +13,7 @@ using Lines = std::vector<std::string>;
 // Screens on a disk that fails on demand.
 struct FileDesk : ControlDesk {
   FaultyFileSystem faulty{files};
-  Ports faultyPorts{boxes,  dialogs, settings, clipboard, processes, faulty,
-                    events, beeper,  entropy,  clock,     help};
+  Ports faultyPorts{boxes, dialogs, settings, clipboard, processes, faulty, events, beeper, entropy, clock, help};
   ScreenContext faultyContext{faultyPorts, state, host};
   ControlFiles onDisk{screens, faultyContext};
 
@@ -122,7 +121,8 @@ TEST_P(SameControlFiles, areTheSameButForADate) {
 
 INSTANTIATE_TEST_SUITE_P(
     Files, SameControlFiles,
-    testing::Values(SameCase{"alike", "a\r\nb\r\n", "a\r\nb\r\n", true}, SameCase{"lineEndsAside", "a\r\nb\r\n", "a\nb\n", true},
+    testing::Values(SameCase{"alike", "a\r\nb\r\n", "a\r\nb\r\n", true},
+                    SameCase{"lineEndsAside", "a\r\nb\r\n", "a\nb\n", true},
                     SameCase{"anotherLine", "a\r\nb\r\n", "a\r\nc\r\n", false},
                     SameCase{"anotherDate", "a\r\nMODIFIED  1\r\nb\r\n", "a\r\nMODIFIED  2\r\nb\r\n", true},
                     SameCase{"aDateForALine", "a\r\nMODIFIED  1\r\nb\r\n", "a\r\nx\r\nb\r\n", true},
@@ -171,7 +171,8 @@ TEST(ReadControlFile, tellsTheLineOfTheFileOfAFaultInTheRunOfASpillway) {
   for (int i = 0; i < 101; ++i) text += "          1\n";
   desk.files.put("/p/dam.KSC", text);
   desk.onDisk.ReadControlFile("/p/dam.KSC");
-  EXPECT_EQ(desk.takeBoxes(), Lines{"File Error: /p/dam.KSC, line 108, record ASSURFACE: more rows than the table holds."});
+  EXPECT_EQ(desk.takeBoxes(),
+            Lines{"File Error: /p/dam.KSC, line 108, record ASSURFACE: more rows than the table holds."});
 }
 
 struct RefusedCase {
@@ -193,16 +194,18 @@ TEST_P(RefusedFile, changesNothing) {
   desk.onDisk.texts.controlText = "as it was";
   EXPECT_TRUE(desk.onDisk.checkLoadable("/p/dam.KSC").failedAs(FailureKind::tooLarge));
   desk.onDisk.ReadControlFile("/p/dam.KSC");
-  EXPECT_EQ(desk.takeBoxes(), Lines{"File Error: /p/dam.KSC cannot be opened as a control file: " + GetParam().reason + "."});
+  EXPECT_EQ(desk.takeBoxes(),
+            Lines{"File Error: /p/dam.KSC cannot be opened as a control file: " + GetParam().reason + "."});
   EXPECT_EQ(desk.onDisk.texts.controlText, "as it was");
   EXPECT_EQ(desk.screens.damSurface.txtCrestWidth.text(), "12");
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, RefusedFile,
-                         testing::Values(RefusedCase{"aLongLine", "KESTRA\r\n" + std::string(65537, 'x') + "\r\nENDRUN\r\n",
-                                                     "A line is longer than 64 KiB"},
-                                         RefusedCase{"aLargeFile", std::string((64U << 20U) + 1, '\n'), "File too large"}),
-                         caseName<RefusedCase>);
+INSTANTIATE_TEST_SUITE_P(
+    Files, RefusedFile,
+    testing::Values(RefusedCase{"aLongLine", "KESTRA\r\n" + std::string(65537, 'x') + "\r\nENDRUN\r\n",
+                                "A line is longer than 64 KiB"},
+                    RefusedCase{"aLargeFile", std::string((64U << 20U) + 1, '\n'), "File too large"}),
+    caseName<RefusedCase>);
 
 TEST(CheckLoadable, passesALineOf64KiBAndTellsAMissingFileApart) {
   FileDesk desk;

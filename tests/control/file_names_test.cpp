@@ -20,13 +20,12 @@ TEST_P(FileNames, areMadeFromThatOfTheControlFile) {
   EXPECT_EQ(companionFileOf(GetParam().file), GetParam().companion);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Names, FileNames,
-    testing::Values(NameCase{"/p/dam.KSC", "/p/dam.AS1", "/p/dam.OUT", "/p/.kestra/dam.json"},
-                    NameCase{"dam.ksc", "dam.AS1", "dam.OUT", ".kestra/dam.json"},
-                    NameCase{"/p.x/dam", "/p.x/dam.AS1", "/p.x/dam.OUT", "/p.x/.kestra/dam.json"},
-                    NameCase{"/p/a.b.KSC", "/p/a.b.AS1", "/p/a.b.OUT", "/p/.kestra/a.b.json"},
-                    NameCase{"/dam.KSC", "/dam.AS1", "/dam.OUT", "/.kestra/dam.json"}));
+INSTANTIATE_TEST_SUITE_P(Names, FileNames,
+                         testing::Values(NameCase{"/p/dam.KSC", "/p/dam.AS1", "/p/dam.OUT", "/p/.kestra/dam.json"},
+                                         NameCase{"dam.ksc", "dam.AS1", "dam.OUT", ".kestra/dam.json"},
+                                         NameCase{"/p.x/dam", "/p.x/dam.AS1", "/p.x/dam.OUT", "/p.x/.kestra/dam.json"},
+                                         NameCase{"/p/a.b.KSC", "/p/a.b.AS1", "/p/a.b.OUT", "/p/.kestra/a.b.json"},
+                                         NameCase{"/dam.KSC", "/dam.AS1", "/dam.OUT", "/.kestra/dam.json"}));
 
 }  // namespace
 }  // namespace kestra

@@ -67,7 +67,8 @@ TEST(RandomScreens, cameBackWithAllThatWasEnteredInAProject) {
       for (const Screen* screen : desk.screens.sequence()) {
         for (const Control* control : screen->controls()) {
           const bool shown = screen == &desk.screens.auxSpillwayProfile || control->name() == "txtComments";
-          if (!shown && control->kind() == ControlKind::text) all.push_back(static_cast<const TextBox*>(control)->text());
+          if (!shown && control->kind() == ControlKind::text)
+            all.push_back(static_cast<const TextBox*>(control)->text());
         }
       }
       return all;

@@ -12,10 +12,10 @@ namespace kestra {
 
 // What of the screens' values is random.
 struct Randomness {
-  int longestText = 5;                      // characters of a field
+  int longestText = 5;                        // characters of a field
   std::string_view alphabet = "0123456789.";  // of fields and cells
-  bool gaps = false;                        // blank rows within tables, values without those before them
-  bool hidden = false;                      // fields of choices that are not in force
+  bool gaps = false;                          // blank rows within tables, values without those before them
+  bool hidden = false;                        // fields of choices that are not in force
 };
 
 // Fills all input screens and stores with random values. The same seed gives the same values everywhere.
@@ -48,7 +48,8 @@ class RandomScreens {
     const auto most = static_cast<std::uint32_t>(how_.longestText);
     const std::uint32_t length = mayBeBlank ? below(most + 1) : 1 + below(most);
     std::string value;
-    for (std::uint32_t i = 0; i < length; ++i) value += how_.alphabet[below(static_cast<std::uint32_t>(how_.alphabet.size()))];
+    for (std::uint32_t i = 0; i < length; ++i)
+      value += how_.alphabet[below(static_cast<std::uint32_t>(how_.alphabet.size()))];
     return value;
   }
 
@@ -56,7 +57,8 @@ class RandomScreens {
     std::string value;
     for (std::uint32_t line = below(5); line > 0; --line) {
       const std::uint32_t words = how_.gaps ? below(20) : 1 + below(8);
-      for (std::uint32_t word = 0; word < words; ++word) value += (word == 0 ? "" : " ") + std::string(1 + below(6), 'w');
+      for (std::uint32_t word = 0; word < words; ++word)
+        value += (word == 0 ? "" : " ") + std::string(1 + below(6), 'w');
       value += "\r\n";
     }
     return value;
@@ -103,8 +105,8 @@ class RandomScreens {
   void fillSpillway(int spillway) {
     AuxProfile& profile = screens_.context.aux.auxProfile[static_cast<std::size_t>(spillway)];
     AuxMaterials& materials = screens_.context.aux.auxMaterials[static_cast<std::size_t>(spillway)];
-    for (std::string* value : {&profile.txtSide, &profile.txtBottom, &profile.txtElevation, &profile.txtTopsoil,
-                               &profile.txtEnd}) {
+    for (std::string* value :
+         {&profile.txtSide, &profile.txtBottom, &profile.txtElevation, &profile.txtTopsoil, &profile.txtEnd}) {
       *value = text();
     }
     fillRows(profile.points, 100);
