@@ -305,57 +305,5 @@ INSTANTIATE_TEST_SUITE_P(
                  {}}),
     caseName<LineCase>);
 
-TEST(MainRun, goesFromTailwaterToOutputWithoutAuxiliarySpillways) {
-  ControlDesk desk;
-  const Lines lines = linesOf(desk.build());
-  const Lines last(lines.end() - 4, lines.end());
-  EXPECT_EQ(last, (Lines{"TAILWATER", "ENDTABLE", "OUTPUT    ALL", "ENDRUN"}));
-}
-
-TEST(MainRun, goesFromTheOptionsToTheModelWithoutAComment) {
-  ControlDesk desk;
-  const Lines lines = linesOf(desk.build());
-  EXPECT_EQ(lines[1], "OPTION    SIMPLE    EARTH     ");
-  EXPECT_TRUE(lines[2].starts_with("HCMODEL"));
-}
-
-TEST(MainRun, hasTheRecordsOfEachAuxiliarySpillwayInUse) {
-  ControlDesk desk;
-  frmAuxSpillways& spillways = desk.screens.auxSpillways;
-  desk.state.numAuxSpillways = 3;
-  for (int i = 0; i < 3; ++i) spillways.txtsway(i).setText("Way " + std::to_string(i + 1) + " of three");
-  choose(spillways.optRating(1));
-  choose(spillways.optStability(2));
-  for (const int i : {0, 2}) {
-    AuxProfile& profile = desk.profile(i);
-    profile.txtSide = "3";
-    profile.txtBottom = "1234567890";
-    profile.txtTopsoil = "0.5";
-    profile.txtEnd = "500";
-    profile.reaches[0] = {"0", "100", " 5.6", "0.8", "1", "2"};
-    profile.reaches[2] = {"100", "200", "5.6", "0.8", "1", ""};
-    profile.reaches[3] = {"", "300", "5.6", "", "", ""};
-    profile.reaches[99] = {"400", "", "", "", "", "3"};
-  }
-  setRow(desk.screens.auxRatingTable.grdTable(1), 1, 1, {"1020", "0"});
-  setRow(desk.screens.auxRatingTable.grdTable(1), 2, 1, {"1021", ""});
-  setRow(desk.screens.auxRatingTable.grdTable(1), 50, 1, {" 1022", "95 "});
-  const std::string text = desk.build();
-  const std::string surface = text.substr(text.find("ASSURFACE"));
-  EXPECT_EQ(surface, fileOf({"ASSURFACE 1Way 1 of 3         1234567890"
-                             "0.5       500",
-                             "          0         100       5.6       0.8       1         2         ",
-                             "          100       200       5.6       0.8       1                   ",
-                             "          400                                               3         ", "ENDTABLE",
-                             "ASRATING  2Way 2 of 0", "          1020      0         ",
-                             "          1022      95        ", "ENDTABLE",
-                             "ASSURFACE 3Way 3 of 3         1234567892"
-                             "0.5       500",
-                             "          0         100       5.6       0.8       1                   ",
-                             "          100       200       5.6       0.8       1                   ",
-                             "          400                                                         ", "ENDTABLE",
-                             "OUTPUT    ALL", "ENDRUN"}));
-}
-
 }  // namespace
 }  // namespace kestra
