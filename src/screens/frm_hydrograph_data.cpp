@@ -69,6 +69,7 @@ void frmHydrographData::load() {
 void frmHydrographData::unload() {
   lastConst.clear();
   bConstChanged = bTitleChanged = bConverted = false;
+  hydrographSelected = 0;
 }
 
 void frmHydrographData::clearTable() {

@@ -59,6 +59,7 @@ class frmHydrographData : public InputScreen {
   bool bConstChanged = false;  // the user has changed txtConst since it was last looked at
   bool bTitleChanged = false;  // likewise txtTitle
   bool bConverted = false;     // a conversion has been made
+  int hydrographSelected = 0;  // index of the one that was chosen last in a QT40 file
 
   void clearTable();  // blanks the cells of the table on show; the cursor goes to the first of them
   // Writes the time column of grdTable: 0, dt, 2 dt, ... hours.

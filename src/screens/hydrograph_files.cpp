@@ -11,6 +11,7 @@
 #include "screens/file_choice.h"
 #include "screens/frm_hydrograph_data.h"
 #include "screens/frm_hydrograph_select.h"
+#include "screens/hydrograph_fault.h"
 #include "screens/qt40_file.h"
 #include "screens/thy_file.h"
 #include "screens/vhy_file.h"
@@ -90,6 +91,10 @@ bool HydrographFiles::tellFault(const TextFile& file, const std::string& fault) 
   return !fault.empty();
 }
 
+void HydrographFiles::tellRest(const TextFile& file, std::size_t points, std::size_t taken) {
+  if (points > taken) warn(file.trap, morePointsThanTaken(points, taken));
+}
+
 void HydrographFiles::takeVariable(const std::vector<HydrographRow>& rows) {
   screen_.selectForm(false);
   Table& table = screen_.varTable;
@@ -119,17 +124,20 @@ void HydrographFiles::importClocked(const Menu& command, ClockedReader read) {
   screen_.setIncrement("");
   screen_.txtTitle.setText(hydrograph->title);
   screen_.txtTitle.takeFocus();
+  tellRest(*file, hydrograph->points, hydrograph->rows.size());
 }
 
 void HydrographFiles::importTab() {
   const auto file = chooseText(mnuImportTab, kTextFilter);
   if (!file) return;
   std::string fault;
-  const std::vector<HydrographRow> rows = readTabRows(file->text, kMostHydrographPoints, &fault);
+  std::size_t points = 0;
+  const std::vector<HydrographRow> rows = readTabRows(file->text, kMostHydrographPoints, &fault, &points);
   takeVariable(rows);
   if (tellFault(*file, fault)) return;
   if (!holdsPoints(rows)) warn(file->trap, kNoHydrograph);
   screen_.setIncrement("");
+  tellRest(*file, points, rows.size());
 }
 
 std::optional<std::string> HydrographFiles::chooseEntry(std::vector<std::string> entries) {
@@ -149,9 +157,9 @@ void HydrographFiles::importQt40() {
   std::vector<std::string> headers = qt40Headers(file->text);
   if (headers.empty()) return warn(file->trap, kNoHydrograph);
   if (!chooseEntry(std::move(headers))) return;
-  const int hydrographSelected = context_.screens.hydrographSelect->List1.index();
+  screen_.hydrographSelected = std::max(context_.screens.hydrographSelect->List1.index(), 0);
   const Qt40Hydrograph hydrograph =
-      readQt40(file->text, static_cast<std::size_t>(std::max(hydrographSelected, 0)), kMostHydrographPoints);
+      readQt40(file->text, static_cast<std::size_t>(screen_.hydrographSelected), kMostHydrographPoints);
   if (hydrograph.flows.empty() && hydrograph.fault.empty()) return warn(file->trap, kNoPoints);
   screen_.txtTitle.setText(hydrograph.title);
   screen_.txtStartTime.setText(hydrograph.startTime);
@@ -159,6 +167,7 @@ void HydrographFiles::importQt40() {
   screen_.setHeadings();
   takeConstant(hydrograph.flows, !hydrograph.fault.empty());
   tellFault(*file, hydrograph.fault);
+  tellRest(*file, hydrograph.points, hydrograph.flows.size());
 }
 
 void HydrographFiles::importTorve() {
@@ -195,6 +204,7 @@ void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
     screen_.txtTitle.setText("");
   }
   takeConstant(textsOf(hydrograph.rows, &HydrographRow::flow), ended);
+  tellRest(file, hydrograph.points, hydrograph.rows.size());
   if (!tellFault(file, hydrograph.fault)) context_.base.host.show(screen_);
 }
 
@@ -209,6 +219,7 @@ bool HydrographFiles::takeThy(const TextFile& file) {
   screen_.setIncrement(hydrograph->increment);
   takeConstant(hydrograph->flows, !hydrograph->fault.empty());
   if (hydrograph->flows.empty() && hydrograph->fault.empty()) warn(file.trap, kNoPoints);
+  tellRest(file, hydrograph->points, std::min<std::size_t>(hydrograph->points, kMostHydrographPoints));
   return !tellFault(file, hydrograph->fault);
 }
 

@@ -73,6 +73,20 @@ TEST_F(HydrographData, leadsPastThePrincipalSpillwayWhenTheStructureTableHasDisc
   EXPECT_EQ(help.topics, Texts{"html\\HydrographDataTable.htm"});
 }
 
+TEST_F(HydrographData, findsDischargesInRowsOneToFiftyThatAreNotBlank) {
+  EXPECT_FALSE(hasStructureDischarge(context));
+  structure.grdTable.setCell(1, 1, "1");
+  structure.grdTable.setCell(1, 3, "1");
+  structure.grdTable.setCell(7, 2, "   ");
+  EXPECT_FALSE(hasStructureDischarge(context));
+  for (const int row : {1, 25, 50}) {
+    structure.grdTable.setCell(row, 2, " 0 ");
+    EXPECT_TRUE(hasStructureDischarge(context)) << row;
+    structure.grdTable.setCell(row, 2, "");
+  }
+  EXPECT_FALSE(hasStructureDischarge(context));
+}
+
 TEST_F(HydrographData, showsWhatBelongsToItsForm) {
   screen.optVariable.userSelect();
   EXPECT_EQ(host.focus(), &screen.txtDesired);

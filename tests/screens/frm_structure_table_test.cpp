@@ -245,6 +245,120 @@ TEST_F(StructureTable, importsARatingAndBlanksTheRest) {
   EXPECT_EQ(row(50), (Boxes{"", "", "", ""}));
 }
 
+const std::string kBlanks(20, ' ');
+const std::string kRows21 = [] {
+  std::string text;
+  for (int i = 1; i <= 21; ++i) text += kBlanks + std::to_string(i) + "\n";
+  return text;
+}();
+
+struct FileCase {
+  void (frmStructureTable::*command)();
+  std::string text;
+  Boxes boxes;
+  Boxes firstRow;
+};
+
+TEST_F(StructureTable, keepsTheRowsBeforeAValueThatIsNone) {
+  const Boxes kept = {"1", "", "", ""};
+  for (const auto& [command, text, boxes, firstRow] :
+       {FileCase{&frmStructureTable::mnuImport_Click,
+                 "1\n2\t3,5\n3\n",
+                 {"Select File: /p/in, line 2: \"3,5\" is no discharge."},
+                 kept},
+        FileCase{&frmStructureTable::mnuImport_Click,
+                 "Elevation\tFlow\n1\n2\t3\tx\n",
+                 {"Select File: /p/in, line 3: \"x\" is no storage."},
+                 kept},
+        FileCase{&frmStructureTable::mnuImport_Click,
+                 "1,5\t2\n",
+                 {"Select File: /p/in, line 1: \"1,5\" is no elevation."},
+                 {"7", "", "", ""}},
+        FileCase{&frmStructureTable::mnuOpen_Click,
+                 "STRUCTURE A\n" + kBlanks + "1\n" + kBlanks + "2         4,5\n",
+                 {"Select File: /p/in, line 3: \"4,5\" is no surface area."},
+                 kept},
+        FileCase{&frmStructureTable::mnuOpen_Click,
+                 "STRUCTURE A\n" + kBlanks + "one\nENDTABLE\n",
+                 {"Select File: /p/in, line 2: \"one\" is no elevation."},
+                 {"7", "", "", ""}}}) {
+    screen.clearTable();
+    screen.grdTable.setCell(1, 1, "7");
+    desk.files.put("/p/in", text);
+    choose("/p/in");
+    (screen.*command)();
+    EXPECT_EQ(desk.takeBoxes(), boxes);
+    EXPECT_EQ(row(1), firstRow) << text;
+    EXPECT_EQ(row(2), (Boxes{"", "", "", ""})) << text;
+  }
+}
+
+TEST_F(StructureTable, isNotTouchedByAFileThatHoldsNothing) {
+  screen.grdTable.setCell(1, 1, "7");
+  screen.txtStructureID.setText("mine");
+  for (const auto& [command, text, boxes, firstRow] :
+       {FileCase{&frmStructureTable::mnuImport_Click, "", {}, {}},
+        FileCase{&frmStructureTable::mnuImport_Click, "\n\t\t\n", {}, {}},
+        FileCase{&frmStructureTable::mnuImport_Click, "\x80\x81\x82", {}, {}},
+        FileCase{&frmStructureTable::mnuOpen_Click, "STRUCTURE A\n", {}, {}},
+        FileCase{&frmStructureTable::mnuOpen_Click, "STRUCTURE A\n\n", {}, {}}}) {
+    desk.files.put("/p/in", text);
+    choose("/p/in");
+    (screen.*command)();
+    EXPECT_EQ(desk.takeBoxes(), Boxes{"Select File: The file holds no points."}) << text;
+    EXPECT_EQ(row(1)[0], "7");
+    EXPECT_EQ(screen.txtStructureID.text(), "mine");
+  }
+  desk.files.put("/p/in", "STRUCTURE A\nENDTABLE\n");  // an empty table was saved
+  choose("/p/in");
+  screen.mnuOpen_Click();
+  EXPECT_TRUE(desk.takeBoxes().empty());
+  EXPECT_EQ(row(1)[0], "");
+  EXPECT_EQ(screen.txtStructureID.text(), "A");
+}
+
+TEST_F(StructureTable, tellsOfPointsThatItDoesNotTake) {
+  std::string tabs;
+  for (int i = 1; i <= 50; ++i) tabs += std::to_string(i) + "\n";
+  const std::string open = "STRUCTURE A\n" + kRows21;
+  const Boxes first = {"1", "", "", ""};
+  for (const auto& [command, text, boxes, firstRow] :
+       {FileCase{&frmStructureTable::mnuImport_Click, tabs + "\n", {}, first},
+        FileCase{&frmStructureTable::mnuImport_Click,
+                 tabs + "51\n\n52\n",
+                 {"Select File: The file holds 52 points, of which the first 50 were taken."},
+                 first},
+        FileCase{&frmStructureTable::mnuOpen_Click, open + "ENDTABLE\n" + kRows21, {}, first},
+        FileCase{&frmStructureTable::mnuOpen_Click,
+                 open + kBlanks + "22\n\nENDTABLE\n",
+                 {"Select File: The file holds 22 points, of which the first 21 were taken."},
+                 first}}) {
+    desk.files.put("/p/in", text);
+    choose("/p/in");
+    (screen.*command)();
+    EXPECT_EQ(desk.takeBoxes(), boxes);
+    EXPECT_EQ(row(1), firstRow);
+  }
+}
+
+TEST_F(StructureTable, tellsOfValuesThatItsFileCannotHold) {
+  desk.files.putDirectory("/p");
+  screen.grdTable.setCell(1, 1, "1234567890");
+  screen.saveStructureTable("/p/a.STR");
+  EXPECT_TRUE(desk.takeBoxes().empty());
+  screen.grdTable.setCell(1, 4, "12345678901");
+  screen.grdTable.setCell(2, 2, "12345678901");  // not written: its row has no elevation
+  screen.grdTable.setCell(3, 1, "12345678901");
+  screen.grdTable.setCell(3, 3, "12345678901");
+  screen.grdTable.setCell(21, 1, "12345678901");  // not written
+  screen.saveStructureTable("/p/a.STR");
+  EXPECT_EQ(desk.takeBoxes(), Boxes{"Save File: These values do not fit their ten columns: surface area in row 1, "
+                                    "elevation in row 3, storage in row 3."});
+  EXPECT_TRUE(desk.files.content("/p/a.STR").has_value());
+  screen.saveStructureTable("/nowhere/a.STR");
+  EXPECT_TRUE(desk.takeBoxes().empty());
+}
+
 TEST_F(StructureTable, isNotTouchedByAnOutputWithoutRating) {
   screen.grdTable.setCell(1, 1, "7");
   desk.files.put("/p/a.OUT", "RATING TABLE NUMBER  3\n1\n2\n3\n     100.5\n");
