@@ -84,6 +84,8 @@ const std::map<std::string, Reader>& readers() {
         {"selectedFields", fromSummary(describeSelectedFields)},
         {"fieldSelected", fromSummary(describeFieldSelected)},
         {"summaryOrder", [](const Application& a) -> Json { return a.summary.summaryOrder(); }},
+        {"hydrographSelected",
+         [](const Application& a) -> Json { return a.shell.input.hydrographData.hydrographSelected; }},
         {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
         {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
         {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},

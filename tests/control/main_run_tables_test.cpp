@@ -1,4 +1,5 @@
-// What the tables and stores hold when a main run has been read, what stays as it was, and what is told of too many rows.
+// What the tables and stores hold when a main run has been read, what stays as it was, and what is told of too many
+// rows.
 #include <gtest/gtest.h>
 
 #include "support/control_desk.h"
