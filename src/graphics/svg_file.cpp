@@ -76,8 +76,7 @@ class SvgBrush : public PictureBrush {
   SvgBrush& addStroke(const Ink& ink) {
     add(" stroke=\"").addColor(ink.color).add("\" stroke-width=\"").add(ink.width, "\"");
     // Lengths of dash and gap as multiples of the pen's width.
-    constexpr std::array<std::array<double, 6>, 5> kDashes = {
-        {{}, {4, 2}, {1, 2}, {4, 2, 1, 2}, {4, 2, 1, 2, 1, 2}}};
+    constexpr std::array<std::array<double, 6>, 5> kDashes = {{{}, {4, 2}, {1, 2}, {4, 2, 1, 2}, {4, 2, 1, 2, 1, 2}}};
     if (ink.style <= kSolid || ink.style >= static_cast<int>(kDashes.size())) return *this;
     add(" stroke-dasharray=\"");
     for (const double length : kDashes[static_cast<std::size_t>(ink.style)]) {

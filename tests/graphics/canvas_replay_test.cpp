@@ -71,12 +71,10 @@ TEST_F(AReplay, paintsWhatTheCanvasShows) {
   canvas.FontBold(true);
   canvas.Print("Title");
   canvas.Print("");
-  EXPECT_EQ(painted(), (std::vector<std::string>{"box 10,20 30,40 in 7 style 0 width 1",
-                                                 "filled 10,20 30,40 in 7 style 0 width 1",
-                                                 "dot 50,60 r 0.5 in 7 style 0 width 1",
-                                                 "circle 50,60 r 10 in 9 style 0 width 1",
-                                                 "dot 50,60 r 1.5 in 9 style 0 width 1",
-                                                 "text 20,20 Title of 22 bold in 7"}));
+  EXPECT_EQ(painted(),
+            (std::vector<std::string>{"box 10,20 30,40 in 7 style 0 width 1", "filled 10,20 30,40 in 7 style 0 width 1",
+                                      "dot 50,60 r 0.5 in 7 style 0 width 1", "circle 50,60 r 10 in 9 style 0 width 1",
+                                      "dot 50,60 r 1.5 in 9 style 0 width 1", "text 20,20 Title of 22 bold in 7"}));
 }
 
 TEST_F(AReplay, beginsWithTheGroundAndThePenOfTheLastWiping) {
@@ -103,8 +101,8 @@ TEST_F(AReplay, growsPensAndLettersWithThePicture) {
   canvas.DrawWidth(2);
   canvas.Line(0, 0, 1, 1);
   canvas.Print("a");
-  EXPECT_EQ(painted({1376, 880}), (std::vector<std::string>{"line 0,0 20,20 in 0 style 0 width 4",
-                                                            "text 20,20 a of 22 in 0"}));
+  EXPECT_EQ(painted({1376, 880}),
+            (std::vector<std::string>{"line 0,0 20,20 in 0 style 0 width 4", "text 20,20 a of 22 in 0"}));
   EXPECT_EQ(pictureScale({1376, 440}), 1);
   EXPECT_EQ(letterSize(0.1, 0.1), 1);
 }
