@@ -43,7 +43,7 @@ TEST(ASizeOfAPicture, isTwoNumbersOfPixels) {
 
 TEST_F(GraphCommand, drawsAGraphIntoAFile) {
   EXPECT_EQ(draw({0}), 0);
-  EXPECT_EQ(memory.content("/home/a.png"), "form 0, 1200x800, 1: Hydrographs 0 100 20");
+  EXPECT_EQ(memory.content("/home/a.png"), "form 0, 1200x800, 1: Hydrographs 0 100 2");
   options.size = "30x20";
   options.format = "svg";
   EXPECT_EQ(draw({0}), 0);
@@ -65,7 +65,7 @@ TEST_F(GraphCommand, numbersTheFilesOfSeveralGraphs) {
 TEST_F(GraphCommand, putsSeveralGraphsIntoOnePdf) {
   options.output = "/home/a.PDF";
   EXPECT_EQ(draw({0, 3, 10}), 0);
-  EXPECT_EQ(memory.content("/home/a.PDF"), "form 2, 1200x800, 3: Hydrographs 0 100 20");
+  EXPECT_EQ(memory.content("/home/a.PDF"), "form 2, 1200x800, 3: Hydrographs 0 100 2");
 }
 
 TEST_F(GraphCommand, writesToTheStandardOutput) {
