@@ -1,6 +1,5 @@
 #include "run/build_pipeline.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -29,11 +28,6 @@ class BuildEnded : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
-
-// A directory of such a name would be the project itself, or the one above.
-bool isOnlyDots(std::string_view name) {
-  return name.find_first_not_of('.') == std::string_view::npos;
-}
 
 }  // namespace
 

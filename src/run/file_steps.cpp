@@ -35,6 +35,10 @@ bool hasExtension(std::string_view path) {
   return ParsePathName(path).find('.') != std::string_view::npos;
 }
 
+bool isOnlyDots(std::string_view name) {
+  return name.find_first_not_of('.') == std::string_view::npos;
+}
+
 std::string_view firstStem(std::string_view path) {
   const std::string_view name = ParsePathName(path);
   return name.substr(0, name.find('.'));

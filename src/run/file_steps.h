@@ -17,6 +17,9 @@ void require(const Status& status);  // throws for a failure
 std::string withoutExtension(std::string_view path);
 bool hasExtension(std::string_view path);  // its name holds a dot
 
+// Whether a name without its extension is no name of a file: empty, or the directory itself or the one above.
+bool isOnlyDots(std::string_view name);
+
 // The name part of a path up to its first "."; all of it without one.
 std::string_view firstStem(std::string_view path);
 

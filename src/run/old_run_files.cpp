@@ -30,6 +30,7 @@ bool belongsTo(const std::string& run, const std::string& name, const Entries& e
 void deleteFilesOfStem(FileSystem& files, const std::string& stem) try {
   const std::string folder(directoryOf(stem));
   const std::string run(ParsePathName(stem));
+  if (isOnlyDots(run)) return;
   const Entries entries = entriesOf(files, folder);
   for (const DirectoryEntry& entry : entries) {
     if (entry.type == FileStatus::Type::directory || !belongsTo(run, entry.name, entries)) continue;
@@ -43,7 +44,8 @@ void deleteFilesOfStem(FileSystem& files, const std::string& stem) try {
 void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName) {
   const std::size_t mark = runName.rfind('_');
   const std::string folder = mark == std::string::npos ? "" : runName.substr(0, mark);
-  deleteFilesOfStem(files, joinPath(joinPath(projectDirectory, folder), runName));
+  const std::string stem = absolutePath(joinPath(joinPath(projectDirectory, folder), runName), projectDirectory);
+  if (stem.starts_with(joinPath(projectDirectory, ""))) deleteFilesOfStem(files, stem);
 }
 
 }  // namespace kestra

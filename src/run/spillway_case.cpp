@@ -166,8 +166,9 @@ std::string logOf(const RunContext& context, const std::string& path, const std:
 void RunSpillwayInstance(RunContext& context, const std::string& instanceFile, int spillwayNumber) {
   FileSystem& files = context.ports.files;
   const std::string path = absolutePath(trim(instanceFile), files.currentDirectory());
-  if (!liesBelow(path, context.state.projectDir)) return;
   const std::string base = withoutExtension(path);
+  const bool named = hasExtension(path) && !isOnlyDots(ParsePathName(base));
+  if (!named || !liesBelow(path, context.state.projectDir)) return;
   if (isDirectory(files, base)) require(removeTree(files, base));
   removeFound(files, base + ".DIS");
   const RunLog log(context.programs, logOf(context, path, base));

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
-#include "run/build_pipeline.h"
 #include "run/run_desk.h"
 
 namespace kestra {
