@@ -122,6 +122,10 @@ std::vector<MessageCase> messageCases() {
       {"noCrest",
        without("CRESTPRFL"),
        {"***** ERROR - the crest has no two points apart (CRESTPRFL): nothing is routed"}},
+      {"crestBelowFloor",
+       with("CRESTPRFL", {"CRESTPRFL", "          0         127", "          50        99", "ENDTABLE"}),
+       {"***** ERROR - the crest at 99 is not above the floor of the reservoir at 100 (CRESTPRFL, line 17): nothing is "
+        "routed"}},
       {"noCoefficient",
        with("DAMCREST", {"DAMCREST  12        5.6       "}),
        {"***** WARNING - discharge coefficient is not given (DAMCREST, line 15): 2.8 is taken"}},
