@@ -111,7 +111,7 @@ TEST_F(InputOperations, nameTheHydrographThatWasChosen) {
   EXPECT_EQ(tell("{'do':'variable','name':'hydrographSelected'}"), "{'ok':true,'value':0}");
   tell(
       "{'do':'click','screen':'frmHydrographData','control':'mnuImportQT40','answers':[{'file':'/p/a.txt'},{'modal':["
-      "{'do':'set','screen':'frmHydrographSelect','control':'List1','value':1},"
+      "{'do':'set','screen':'frmHydrographSelect','control':'List1','value':{'index':1}},"
       "{'do':'click','screen':'frmHydrographSelect','control':'cmdOK'}]}]}");
   EXPECT_EQ(tell("{'do':'variable','name':'hydrographSelected'}"), "{'ok':true,'value':1}");
   EXPECT_EQ(column("frmHydrographData", "grdTable", 1, 1, 1), "{'ok':true,'value':[['2']]}");

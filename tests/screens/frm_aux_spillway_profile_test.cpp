@@ -392,12 +392,5 @@ TEST_F(AuxProfileScreen, editsTheTableOfThePageOnShow) {
   EXPECT_NE(screen.find("mnuInsertColumn"), nullptr);
 }
 
-TEST_F(AuxProfileScreen, helpsAndDoesNotPlotYet) {
-  desk.openProfile(desk.spillways.optQUIL(0));
-  screen.cmdHelp.click();
-  EXPECT_EQ(desk.help.topics, std::vector<std::string>{"html\\AuxiliarySpillway.htm"});
-  EXPECT_FALSE(screen.cmdPlot.hasAction());
-}
-
 }  // namespace
 }  // namespace kestra
