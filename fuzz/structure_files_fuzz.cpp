@@ -58,6 +58,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view text(reinterpret_cast<const char*>(data), size);
   checkStructureFile(text);
   checkTabs(text);
-  if (const auto rating = readTorveRating(text)) fuzzRequire(rating->size() <= 20, "a rating has 20 rows at most");
+  if (const auto rating = readTorveRating(text)) {
+    fuzzRequire(rating->rows.size() <= 20, "a rating has 20 rows at most");
+    fuzzRequire(rating->points >= rating->rows.size(), "the rows that are taken count as points");
+  }
   return 0;
 }

@@ -18,6 +18,7 @@ constexpr const char* kStructureFilter = "All Files (*.*)|*.*|Structure Table Fi
 constexpr const char* kTextFilter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
 constexpr const char* kTorveFilter = "All Files (*.*)|*.*| Torve Output File (*.OUT)|*.OUT";
 constexpr const char* kFileBox = "Select File";  // title of what is told of a file that was read
+constexpr const char* kSaveBox = "Save File";
 constexpr NoNameBox kNoFile = {"Select a File", "No filename is provided"};
 
 FileDialog dialog(FileDialog::Kind kind, const char* title, const char* filter) {
@@ -93,7 +94,8 @@ void frmStructureTable::mnuImportTorve_Click() {
   if (!file) return;
   const auto text = readLines(ports, *file);
   if (!text) return;
-  if (const auto rating = readTorveRating(text.value())) takeRows(*rating);
+  const auto rating = readTorveRating(text.value());
+  rating ? (void)takeFile(*file, *rating) : tellOfFile("The file holds no rating table.");
 }
 
 void frmStructureTable::mnuOpen_Click() {
@@ -103,32 +105,30 @@ void frmStructureTable::mnuOpen_Click() {
   const auto text = readLines(ports, *name);
   if (!text) return;
   const auto file = readStructureFile(text.value());
-  if (!file) {
-    ports.boxes.tell(kFileBox, "The selected file is not in the correct format.", BoxIcon::warning);
-    return;
-  }
+  if (!file) return tellOfFile("The selected file is not in the correct format.");
   const Gesture gesture(host().history(), nullptr);
   if (takeFile(*name, *file) && file->identifier) txtStructureID.setText(*file->identifier);
 }
 
+void frmStructureTable::tellOfFile(const std::string& text) {
+  context_.base.ports.boxes.tell(kFileBox, text, BoxIcon::warning);
+}
+
 bool frmStructureTable::takeFile(const std::string& path, const StructureFile& file) {
-  const auto tell = [this](const std::string& text) {
-    context_.base.ports.boxes.tell(kFileBox, text, BoxIcon::warning);
-  };
   const bool taken = holdsValues(file.rows) || (file.ended && file.fault.empty());
   if (taken) takeRows(file.rows);
   if (!file.fault.empty()) {
-    tell(path + ", " + file.fault);
+    tellOfFile(path + ", " + file.fault);
   } else if (!taken) {
-    tell("The file holds no points.");
+    tellOfFile("The file holds no points.");
   } else if (file.points > file.rows.size()) {
-    tell(morePointsThanTaken(file.points, file.rows.size()));
+    tellOfFile(morePointsThanTaken(file.points, file.rows.size()));
   }
   return taken;
 }
 
 void frmStructureTable::mnuSave_Click() {
-  const auto file = chooseFile(context_.base.ports, dialog(FileDialog::Kind::save, "Save File", kStructureFilter));
+  const auto file = chooseFile(context_.base.ports, dialog(FileDialog::Kind::save, kSaveBox, kStructureFilter));
   if (file && !file->empty()) saveStructureTable(*file);
 }
 
@@ -151,10 +151,14 @@ void frmStructureTable::mnuExport_Click() {
 
 void frmStructureTable::saveStructureTable(const std::string& fileName) {
   Ports& ports = context_.base.ports;
-  const std::string tooLong = valuesTooLong(rows());
-  if (!writeWholeFile(ports.files, fileName, structureFileText(txtStructureID.text(), rows()))) return;
-  if (tooLong.empty()) return;
-  ports.boxes.tell("Save File", "These values do not fit their ten columns: " + tooLong + ".", BoxIcon::warning);
+  const std::vector<StructureRow> all = rows();
+  if (!writeWholeFile(ports.files, fileName, structureFileText(txtStructureID.text(), all))) return;
+  if (const std::string tooLong = valuesTooLong(all); !tooLong.empty()) {
+    ports.boxes.tell(kSaveBox, "These values do not fit their ten columns: " + tooLong + ".", BoxIcon::warning);
+  }
+  if (const std::string rest = pointsNotWritten(all); !rest.empty()) {
+    ports.boxes.tell(kSaveBox, rest, BoxIcon::warning);
+  }
 }
 
 std::vector<StructureRow> frmStructureTable::rows() const {

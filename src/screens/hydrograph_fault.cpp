@@ -8,6 +8,10 @@ namespace {
 
 constexpr std::size_t kMostQuoted = 40;
 
+std::string holdsMore(std::size_t points, std::size_t used) {
+  return "holds " + std::to_string(points) + " points, of which the first " + std::to_string(used) + " were ";
+}
+
 }  // namespace
 
 bool isNumberOrBlank(std::string_view field) {
@@ -28,8 +32,11 @@ std::string fieldFault(std::size_t line, std::string_view field, const std::stri
 }
 
 std::string morePointsThanTaken(std::size_t points, std::size_t taken) {
-  return "The file holds " + std::to_string(points) + " points, of which the first " + std::to_string(taken) +
-         " were taken.";
+  return "The file " + holdsMore(points, taken) + "taken.";
+}
+
+std::string morePointsThanWritten(std::size_t points, std::size_t written) {
+  return "The table " + holdsMore(points, written) + "written.";
 }
 
 }  // namespace kestra

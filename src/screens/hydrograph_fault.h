@@ -17,7 +17,8 @@ bool isMeantAsNumber(std::string_view field);
 // where the field is blank. A long field is quoted in part.
 std::string fieldFault(std::size_t line, std::string_view field, const std::string& wanted);
 
-// A sentence on a file that holds more points than were taken.
+// A sentence on a file that holds more points than were taken, or a table that holds more than were written.
 std::string morePointsThanTaken(std::size_t points, std::size_t taken);
+std::string morePointsThanWritten(std::size_t points, std::size_t written);
 
 }  // namespace kestra

@@ -47,6 +47,13 @@ bool isBlank(const StructureRow& row) {
   return std::all_of(row.begin(), row.end(), [](const std::string& text) { return trim(text).empty(); });
 }
 
+// How many points have an elevation among the first rows; only those are written.
+std::size_t pointsIn(const std::vector<StructureRow>& rows, std::size_t first) {
+  const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::min(first, rows.size()));
+  const auto filled = [](const StructureRow& row) { return !row[0].empty(); };
+  return static_cast<std::size_t>(std::count_if(rows.begin(), end, filled));
+}
+
 std::string faultIn(const StructureRow& row, std::size_t line) {
   for (std::size_t i = 0; i < row.size(); ++i) {
     if (!isNumberOrBlank(row[i])) return fieldFault(line, row[i], kValues[i]);
@@ -139,16 +146,34 @@ std::string valuesTooLong(const std::vector<StructureRow>& rows) {
   return places;
 }
 
-std::optional<std::vector<StructureRow>> readTorveRating(std::string_view text) {
+std::string pointsNotWritten(const std::vector<StructureRow>& rows) {
+  const std::size_t points = pointsIn(rows, rows.size());
+  const std::size_t written = pointsIn(rows, kRowsWritten);
+  return points > written ? morePointsThanWritten(points, written) : "";
+}
+
+std::optional<StructureFile> readTorveRating(std::string_view text) {
   LineReader lines(text);
   if (!skipTo(lines, kRatingAnchor, 23)) return std::nullopt;
   std::string_view line;
   for (int skipped = 0; skipped < 3; ++skipped) lines.next(line);
-  std::vector<StructureRow> rows;
-  while (rows.size() < kRatingRows && lines.next(line) && trim(line) != kRatingEnd) {
-    if (!trim(line).empty()) rows.push_back(ratingRow(line));
+  StructureFile rating;
+  while (!rating.ended && lines.next(line)) {
+    rating.ended = trim(line) == kRatingEnd;
+    if (rating.ended || trim(line).empty()) continue;
+    StructureRow row = ratingRow(line);
+    std::string fault = faultIn(row, lines.lineNumber());
+    if (rating.rows.size() == kRatingRows) {
+      if (row[0].empty() || !fault.empty()) break;  // the table has no end, and this is none of its rows
+    } else if (!fault.empty()) {
+      rating.fault = std::move(fault);
+      break;
+    } else {
+      rating.rows.push_back(std::move(row));
+    }
+    ++rating.points;
   }
-  return rows;
+  return rating;
 }
 
 std::vector<StructureRow> readStructureTabs(std::string_view text, std::size_t mostRows, std::string* fault,

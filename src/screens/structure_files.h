@@ -12,26 +12,31 @@ namespace kestra {
 
 using StructureRow = std::array<std::string, 4>;
 
-// A structure-table file (.STR): "STRUCTURE" at column 1 with the identifier from 11 on; a line a point with elevation
-// at 21, surface area at 31, discharge at 41 and storage at 61; "ENDTABLE" at 1. Ten columns of a field are read;
-// written is the whole text, up to where the next field begins.
+// What was read of a file.
 struct StructureFile {
-  std::optional<std::string> identifier;  // nothing when the first line ends before it; read: 5 characters
-  std::vector<StructureRow> rows;         // read: 21 at most
-  std::string fault;                      // of the first value that is no number, which ends the rows; empty: none
-  std::size_t points = 0;                 // those behind the rows included, unless there is a fault
-  bool ended = false;                     // "ENDTABLE" was read
+  std::optional<std::string> identifier;  // nothing when the file does not reach it
+  std::vector<StructureRow> rows;
+  std::string fault;       // of the first value that is no number, which ends the rows; empty: none
+  std::size_t points = 0;  // those behind the rows included, unless there is a fault
+  bool ended = false;      // the line that ends the table was read
 };
+
+// A structure-table file (.STR): "STRUCTURE" at column 1 with the identifier from 11 on, of which 5 characters are
+// read; a line a point with elevation at 21, surface area at 31, discharge at 41 and storage at 61; "ENDTABLE" at 1.
+// Read are 21 rows at most, and ten columns of a field; written the rows 1 to 20 that have an elevation, each text
+// whole up to where the next field begins.
 std::optional<StructureFile> readStructureFile(std::string_view text);  // nothing: not in this format
 std::string structureFileText(std::string_view identifier, const std::vector<StructureRow>& rows);
 
 // Which values of the rows that are written have more characters than are read again: "elevation in row 3, storage in
 // row 4"; empty: none.
 std::string valuesTooLong(const std::vector<StructureRow>& rows);
+// A sentence on points that are not written; empty: all are.
+std::string pointsNotWritten(const std::vector<StructureRow>& rows);
 
 // The rating in the text output of the spillway program: behind the line "RATING TABLE NUMBER  2" and three more, rows
-// up to a line of 21 asterisks, at most 20. Nothing when there is no such line.
-std::optional<std::vector<StructureRow>> readTorveRating(std::string_view text);
+// up to a line of 21 asterisks, at most 20. Nothing when there is no line of that name.
+std::optional<StructureFile> readTorveRating(std::string_view text);
 
 // Tab-delimited text, a line a row; missing fields are empty, what is behind the fourth is dropped. A first line of
 // texts that are no numbers, nor meant as such, is a heading and passed over. Reading stops at the first field that is

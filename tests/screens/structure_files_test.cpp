@@ -43,6 +43,17 @@ TEST(StructureFileText, cutsAValueWhereTheNextFieldBeginsAndTheLastOneNever) {
   }
 }
 
+TEST(PointsNotWritten, areThoseBehindTheTwentiethRow) {
+  Rows rows(20, StructureRow{"1", "", "", ""});
+  rows[4] = {"", "5", "", ""};
+  EXPECT_EQ(pointsNotWritten({}), "");
+  EXPECT_EQ(pointsNotWritten(rows), "");
+  rows.push_back({"", "5", "", ""});
+  EXPECT_EQ(pointsNotWritten(rows), "");
+  rows.push_back({"2", "", "", ""});
+  EXPECT_EQ(pointsNotWritten(rows), "The table holds 20 points, of which the first 19 were written.");
+}
+
 TEST(ReadStructureFile, takesTenCharactersOfAField) {
   const std::string eleven = "12345678901";
   const auto file = readStructureFile(structureFileText("", {{eleven, eleven, eleven, eleven}}));
@@ -83,6 +94,7 @@ TEST(ReadStructureFile, readsAFileThatIsCutOff) {
 }
 
 const std::string kAnchor = " RATING TABLE NUMBER  2\n1\n2\n3\n";
+const std::string kEnd = "*********************\n";
 // clang-format off
 //                                 1         2         3         4         5         6
 //                        123456789012345678901234567890123456789012345678901234567890123
@@ -90,9 +102,11 @@ const std::string kRow = "     100.50               12.5     x        300.25   4
 // clang-format on
 
 TEST(ReadTorveRating, takesElevationDischargeStorageAndArea) {
-  const auto rows = readTorveRating("something\n" + kAnchor + kRow + "\n" + kRow + "*********************\n" + kRow);
-  ASSERT_TRUE(rows);
-  EXPECT_EQ(*rows, (Rows{{"100.50", "12.5", "300.25", "40.75"}, {"100.50", "12.5", "300.25", "40.75"}}));
+  const auto rating = readTorveRating("something\n" + kAnchor + kRow + "\n" + kRow + kEnd + kRow);
+  ASSERT_TRUE(rating);
+  EXPECT_EQ(rating->rows, (Rows{{"100.50", "12.5", "300.25", "40.75"}, {"100.50", "12.5", "300.25", "40.75"}}));
+  EXPECT_TRUE(rating->ended);
+  EXPECT_EQ(rating->points, 2U);
 }
 
 TEST(ReadTorveRating, leavesWhatAShortLineDoesNotReachEmpty) {
@@ -104,23 +118,48 @@ TEST(ReadTorveRating, leavesWhatAShortLineDoesNotReachEmpty) {
                                                          {57, {"100.50", "12.5", "300.25", "40.7"}}}) {
     std::string line = kRow.substr(0, length);
     if (length == 5) line[4] = '7';
-    const auto rows = readTorveRating(kAnchor + line + "\n");
-    ASSERT_EQ(rows->size(), 1U) << length;
-    EXPECT_EQ(rows->front(), wanted) << length;
+    const auto rating = readTorveRating(kAnchor + line + "\n");
+    ASSERT_EQ(rating->rows.size(), 1U) << length;
+    EXPECT_EQ(rating->rows.front(), wanted) << length;
   }
 }
 
 TEST(ReadTorveRating, stopsAfterTwentyPointsWithoutALineOfAsterisks) {
-  std::string text = kAnchor;
-  for (int i = 0; i < 30; ++i) text += kRow;
-  EXPECT_EQ(readTorveRating(text)->size(), 20U);
+  struct Case {
+    int rows;
+    std::string behind;
+    std::size_t points;
+  };
+  for (const auto& [count, behind, points] :
+       {Case{20, "", 20}, Case{20, kEnd + kRow, 20}, Case{30, "", 30}, Case{30, kEnd + kRow, 30},
+        Case{30, "\n" + kRow, 31}, Case{30, "\nSUMMARY\n" + kRow, 30}, Case{20, "     12 MORE PAGES\n" + kRow, 20}}) {
+    std::string text = kAnchor;
+    for (int i = 0; i < count; ++i) text += kRow;
+    const auto rating = readTorveRating(text + behind);
+    EXPECT_EQ(rating->rows.size(), 20U) << count << behind;
+    EXPECT_EQ(rating->points, points) << count << behind;
+    EXPECT_EQ(rating->fault, "") << count << behind;
+  }
+}
+
+TEST(ReadTorveRating, stopsAtAValueThatIsNoNumber) {
+  for (const auto& [line, fault] : std::vector<std::pair<std::string, std::string>>{
+           {"     1,5\n", "line 6: \"1,5\" is no elevation."},
+           {std::string(23, ' ') + "12 cfs\n", "line 6: \"12 cfs\" is no discharge."},
+           {std::string(43, ' ') + "x     \n" + kRow, "line 6: \"x\" is no storage."},
+           {std::string(53, ' ') + "\x80?\n", "line 6: \"\x80?\" is no surface area."}}) {
+    const auto rating = readTorveRating(kAnchor + kRow + line);
+    EXPECT_EQ(rating->fault, fault);
+    EXPECT_EQ(rating->rows.size(), 1U);
+    EXPECT_EQ(rating->points, 1U);
+  }
 }
 
 TEST(ReadTorveRating, wantsItsAnchorWithTwoBlanks) {
   EXPECT_FALSE(readTorveRating(""));
   EXPECT_FALSE(readTorveRating("RATING TABLE NUMBER 2\n" + kRow));
   EXPECT_FALSE(readTorveRating("RATING TABLE NUMBER  21\n" + kRow));
-  EXPECT_TRUE(readTorveRating("RATING TABLE NUMBER  2 of 3\n")->empty());
+  EXPECT_TRUE(readTorveRating("RATING TABLE NUMBER  2 of 3\n")->rows.empty());
 }
 
 TEST(StructureTabs, goInTheOrderOfTheColumns) {

@@ -14,6 +14,7 @@ TEST_F(StructureTable, savesItsFirstTwentyRowsAndOpensThemAgain) {
   choose("/p/pond.STR");
   desk.files.putDirectory("/p");
   screen.mnuSave_Click();
+  EXPECT_EQ(desk.takeBoxes(), Boxes{"Save File: The table holds 24 points, of which the first 19 were written."});
   const std::string text = desk.files.content("/p/pond.STR").value_or("");
   EXPECT_EQ(text.substr(0, 87),
             "STRUCTURE POND1\r\n                    1         40        20                  300\r\n     ");
@@ -128,6 +129,8 @@ const std::string kRows21 = [] {
   return text;
 }();
 
+const std::string kRating = "RATING TABLE NUMBER  2\n1\n2\n3\n";
+
 struct FileCase {
   void (frmStructureTable::*command)();
   std::string text;
@@ -157,6 +160,14 @@ TEST_F(StructureTable, keepsTheRowsBeforeAValueThatIsNone) {
         FileCase{&frmStructureTable::mnuOpen_Click,
                  "STRUCTURE A\n" + kBlanks + "one\nENDTABLE\n",
                  {"Select File: /p/in, line 2: \"one\" is no elevation."},
+                 {"7", "", "", ""}},
+        FileCase{&frmStructureTable::mnuImportTorve_Click,
+                 kRating + "    1 \n    1,5\n    2 \n",
+                 {"Select File: /p/in, line 6: \"1,5\" is no elevation."},
+                 kept},
+        FileCase{&frmStructureTable::mnuImportTorve_Click,
+                 kRating + "    abc\n",
+                 {"Select File: /p/in, line 5: \"abc\" is no elevation."},
                  {"7", "", "", ""}}}) {
     screen.clearTable();
     screen.grdTable.setCell(1, 1, "7");
@@ -177,7 +188,9 @@ TEST_F(StructureTable, isNotTouchedByAFileThatHoldsNothing) {
         FileCase{&frmStructureTable::mnuImport_Click, "\n\t\t\n", {}, {}},
         FileCase{&frmStructureTable::mnuImport_Click, "\x80\x81\x82", {}, {}},
         FileCase{&frmStructureTable::mnuOpen_Click, "STRUCTURE A\n", {}, {}},
-        FileCase{&frmStructureTable::mnuOpen_Click, "STRUCTURE A\n\n", {}, {}}}) {
+        FileCase{&frmStructureTable::mnuOpen_Click, "STRUCTURE A\n\n", {}, {}},
+        FileCase{&frmStructureTable::mnuImportTorve_Click, kRating, {}, {}},
+        FileCase{&frmStructureTable::mnuImportTorve_Click, kRating.substr(0, 24), {}, {}}}) {
     desk.files.put("/p/in", text);
     choose("/p/in");
     (screen.*command)();
@@ -191,9 +204,17 @@ TEST_F(StructureTable, isNotTouchedByAFileThatHoldsNothing) {
   EXPECT_TRUE(desk.takeBoxes().empty());
   EXPECT_EQ(row(1)[0], "");
   EXPECT_EQ(screen.txtStructureID.text(), "A");
+  screen.grdTable.setCell(1, 1, "7");
+  desk.files.put("/p/in", kRating + "*********************\n");
+  choose("/p/in");
+  screen.mnuImportTorve_Click();
+  EXPECT_TRUE(desk.takeBoxes().empty());
+  EXPECT_EQ(row(1)[0], "");
 }
 
 TEST_F(StructureTable, tellsOfPointsThatItDoesNotTake) {
+  std::string rating = kRating;
+  for (int i = 1; i <= 25; ++i) rating += "    " + std::to_string(i) + "  \n";
   std::string tabs;
   for (int i = 1; i <= 50; ++i) tabs += std::to_string(i) + "\n";
   const std::string open = "STRUCTURE A\n" + kRows21;
@@ -208,6 +229,10 @@ TEST_F(StructureTable, tellsOfPointsThatItDoesNotTake) {
         FileCase{&frmStructureTable::mnuOpen_Click,
                  open + kBlanks + "22\n\nENDTABLE\n",
                  {"Select File: The file holds 22 points, of which the first 21 were taken."},
+                 first},
+        FileCase{&frmStructureTable::mnuImportTorve_Click,
+                 rating + "*********************\n     26\n",
+                 {"Select File: The file holds 25 points, of which the first 20 were taken."},
                  first}}) {
     desk.files.put("/p/in", text);
     choose("/p/in");
@@ -228,8 +253,9 @@ TEST_F(StructureTable, tellsOfValuesThatItsFileCannotHold) {
   screen.grdTable.setCell(3, 3, "12345678901");
   screen.grdTable.setCell(21, 1, "12345678901");  // not written
   screen.saveStructureTable("/p/a.STR");
-  EXPECT_EQ(desk.takeBoxes(), Boxes{"Save File: These values do not fit their ten columns: surface area in row 1, "
-                                    "elevation in row 3, storage in row 3."});
+  EXPECT_EQ(desk.takeBoxes(), (Boxes{"Save File: These values do not fit their ten columns: surface area in row 1, "
+                                     "elevation in row 3, storage in row 3.",
+                                     "Save File: The table holds 3 points, of which the first 2 were written."}));
   EXPECT_TRUE(desk.files.content("/p/a.STR").has_value());
   screen.saveStructureTable("/nowhere/a.STR");
   EXPECT_TRUE(desk.takeBoxes().empty());
@@ -240,6 +266,7 @@ TEST_F(StructureTable, isNotTouchedByAnOutputWithoutRating) {
   desk.files.put("/p/a.OUT", "RATING TABLE NUMBER  3\n1\n2\n3\n     100.5\n");
   choose("/p/a.OUT");
   screen.mnuImportTorve_Click();
+  EXPECT_EQ(desk.takeBoxes(), Boxes{"Select File: The file holds no rating table."});
   EXPECT_EQ(row(1)[0], "7");
 }
 
