@@ -23,6 +23,7 @@ constexpr const char* kTextFilter = "All Files (*.*)|*.*| Text Files (*.txt)|*.t
 constexpr const char* kTorveFilter = "All Files (*.*)|*.*| Hydrograph Files (*.VHY)|*.VHY";
 constexpr const char* kThyFilter = "All Files (*.*)|*.*|Hydrograph Data Files (*.THY)|*.THY";
 constexpr const char* kTabFilter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
+constexpr const char* kExportTrap = "Export File Error";
 constexpr const char* kNoHydrograph = "The file holds no hydrograph.";
 constexpr const char* kNoPoints = "The record holds no points.";
 constexpr int kVhyColumn = 1;  // the files do not tell theirs
@@ -230,20 +231,23 @@ void HydrographFiles::LoadHydrographForms(const std::string& fileName) {
 
 void HydrographFiles::SaveTable(const std::string& fileName) {
   ConstantHydrograph hydrograph{screen_.txtTitle.text(), screen_.txtConst.text(), {}};
-  for (int row = 1; row <= kMostHydrographPoints; ++row) {
+  for (int row = 1; row < screen_.grdTable.rows(); ++row) {
     hydrograph.flows.push_back(screen_.grdTable.cell(row, kHydrographFlow));
   }
-  write(fileName, thyText(hydrograph));
+  if (!write(fileName, thyText(hydrograph))) return;
+  for (const std::string& lost : lostInThy(hydrograph)) warn(kExportTrap, lost);
 }
 
-void HydrographFiles::write(const std::string& path, std::string_view text) {
+bool HydrographFiles::write(const std::string& path, std::string_view text) {
   const Status written = writeWholeFile(context_.base.ports.files, path, text);
-  if (!written) warn("Export File Error", written.failure().path + ": " + written.failure().reason);
+  if (written) return true;
+  warn(kExportTrap, written.failure().path + ": " + written.failure().reason);
+  return false;
 }
 
 void HydrographFiles::exportThy() {
   if (!screen_.optConst.selected()) {
-    return warn("Export File Error", "Only a hydrograph with a constant time increment can be exported in this form.");
+    return warn(kExportTrap, "Only a hydrograph with a constant time increment can be exported in this form.");
   }
   Ports& ports = context_.base.ports;
   auto path = chooseFile(ports, {FileDialog::Kind::save, "Save File", kThyFilter, 2, {}, false});

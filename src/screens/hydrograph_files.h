@@ -17,7 +17,7 @@ class frmHydrographData;
 // hydrograph is told in a box and changes nothing (a .VHY file without a known record: no box; two columns of text
 // without a row: the table is emptied). A value that is none ends an import with a box: the form is switched and the
 // rows before the value stay; what an import does behind its rows is left out.
-// Points that the table does not take are told.
+// Points that the table does not take are told, and what a .THY file cannot hold.
 class HydrographFiles {
  public:
   HydrographFiles(frmHydrographData& screen, InputContext& context);
@@ -51,7 +51,7 @@ class HydrographFiles {
 
   std::optional<TextFile> chooseText(const Menu& command, const char* filter);
   std::optional<TextFile> readText(const std::string& path, const std::string& trap);
-  void write(const std::string& path, std::string_view text);
+  bool write(const std::string& path, std::string_view text);  // false: it could not be, and that was told
   // The code that the user chooses among entries, shown modally; nothing when he chooses none.
   std::optional<std::string> chooseEntry(std::vector<std::string> entries);
   bool takeThy(const TextFile& file);  // false: there was something to tell

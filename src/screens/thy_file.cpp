@@ -34,6 +34,17 @@ void put(std::string& line, int column, std::string_view text, int width) {
   line += text;
 }
 
+// How many rows the lines of a file stand for: up to a line whose first discharge is empty.
+std::size_t rowsWritten(const std::vector<std::string>& flows) {
+  std::size_t row = 0;
+  while (row < std::min(flows.size(), kLastRowStart) && !trim(flows[row]).empty()) row += kFlowsALine;
+  return std::min(row, flows.size());
+}
+
+bool isTooLong(std::string_view text) {
+  return charCount(trim(text)) > static_cast<std::size_t>(kFieldWidth);
+}
+
 // A line stands for five rows of the table, whether it reaches their fields or not. False, and a fault told, at a field
 // that is no discharge.
 bool takeFlows(std::string_view line, std::size_t number, std::size_t& row, ThyHydrograph& hydrograph) {
@@ -97,15 +108,32 @@ std::string thyText(const ConstantHydrograph& hydrograph) {
   put(line, kFirstFlow, hydrograph.increment, kFieldWidth);
   text.append(kCrLf).append(line).append(kCrLf);
   const auto& flows = hydrograph.flows;
-  for (std::size_t row = 0; row < std::min(flows.size(), kLastRowStart) && !trim(flows[row]).empty();
-       row += kFlowsALine) {
+  const std::size_t rows = rowsWritten(flows);
+  for (std::size_t row = 0; row < rows; row += kFlowsALine) {
     line.clear();
-    for (std::size_t i = 0; i < kFlowsALine && row + i < flows.size(); ++i) {
+    for (std::size_t i = 0; i < kFlowsALine && row + i < rows; ++i) {
       put(line, kFirstFlow + static_cast<int>(i) * kFieldWidth, flows[row + i], kFieldWidth);
     }
     text.append(line).append(kCrLf);
   }
   return text.append("ENDTABLE").append(kCrLf);
+}
+
+std::vector<std::string> lostInThy(const ConstantHydrograph& hydrograph) {
+  std::vector<std::string> lost;
+  if (isTooLong(hydrograph.increment)) lost.push_back("The time increment was cut to its first ten characters.");
+  const auto filled = [](const std::string& flow) { return !trim(flow).empty(); };
+  const auto begin = hydrograph.flows.begin();
+  const auto end = begin + static_cast<std::ptrdiff_t>(rowsWritten(hydrograph.flows));
+  if (const auto cut = std::find_if(begin, end, isTooLong); cut != end) {
+    lost.push_back(
+        "Discharges were cut to their first ten characters: " + std::to_string(std::count_if(cut, end, isTooLong)) +
+        ", the first of them in row " + std::to_string(cut - begin + 1) + ".");
+  }
+  const auto written = static_cast<std::size_t>(std::count_if(begin, end, filled));
+  const auto rest = static_cast<std::size_t>(std::count_if(end, hydrograph.flows.end(), filled));
+  if (rest > 0) lost.push_back(morePointsThanWritten(written + rest, written));
+  return lost;
 }
 
 }  // namespace kestra

@@ -29,4 +29,7 @@ std::optional<ThyHydrograph> readThy(std::string_view text);
 // Writes rows up to the first whose first discharge is empty, or from discharge 4997 on.
 std::string thyText(const ConstantHydrograph& hydrograph);
 
+// What writing leaves out, a sentence each: characters behind the tenth of a value, points behind the last line.
+std::vector<std::string> lostInThy(const ConstantHydrograph& hydrograph);
+
 }  // namespace kestra

@@ -261,6 +261,20 @@ TEST_F(HydrographFilesOnScreen, exportAThyFileThatReadsBackAsItWas) {
   EXPECT_EQ(screen.txtTitle.text(), "Storm");
 }
 
+TEST_F(HydrographFilesOnScreen, tellWhatAThyFileCannotHold) {
+  screen.setIncrement("0.5");
+  put(screen.grdTable, 1, {"12345.678901", "2", "3", "4", "5", "", "7"});
+  choose("/p/storm.THY");
+  menu.mnuExport.click();
+  EXPECT_EQ(
+      takeBoxes(),
+      (Texts{"Export File Error: Discharges were cut to their first ten characters: 1, the first of them in row 1.",
+             "Export File Error: The table holds 6 points, of which the first 5 were written."}));
+  EXPECT_TRUE(files.content("/p/storm.THY").has_value());
+  menu.SaveTable("/none/storm.THY");
+  EXPECT_EQ(takeBoxes(), Texts{"Export File Error: /none: No such file or directory"});
+}
+
 TEST_F(HydrographFilesOnScreen, exportUnderANameOtherThanTheOneAnnouncedWhenNoneIsGiven) {
   put(screen.grdTable, 1, {"1"});
   choose("");

@@ -38,6 +38,26 @@ TEST(ThyText, beginsNoLineBehindDischarge4996) {
   EXPECT_EQ(thyText({"", "1", counted(5006)}).find("5001"), std::string::npos);
 }
 
+TEST(LostInThy, isWhatIsCutAndWhatStandsBehindAnEmptyDischarge) {
+  using Texts = std::vector<std::string>;
+  const std::string gap = "The table holds 13 points, of which the first 4 were written.";
+  std::vector<std::string> gapped = counted(15);
+  gapped[4] = gapped[5] = "";
+  struct Case {
+    ConstantHydrograph hydrograph;
+    Texts lost;
+  };
+  for (const auto& [hydrograph, lost] :
+       {Case{{}, {}}, Case{{"t", "0.25", counted(4999)}, {}}, Case{{"t", "", {"", " "}}, {}},
+        Case{{"t", "0.25", {"1234567890", " 1234567890 "}}, {}}, Case{{"t", "0.25", gapped}, {gap}},
+        Case{{"t", "0.123456789", {"1", "12345678901", "", "12345678902"}},
+             {"The time increment was cut to its first ten characters.",
+              "Discharges were cut to their first ten characters: 2, the first of them in row 2."}},
+        Case{{"t", "1", counted(5006)}, {"The table holds 5006 points, of which the first 5000 were written."}}}) {
+    EXPECT_EQ(lostInThy(hydrograph), lost);
+  }
+}
+
 TEST(ReadThy, readsBackThePointsWhateverTheirCount) {
   for (const int count : {0, 1, 4, 5, 6, 10, 4996, 4999}) {
     const auto read = readThy(thyText({"Storm", "0.5", counted(count)}));
