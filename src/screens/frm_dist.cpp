@@ -57,13 +57,10 @@ void frmDist::choose(MaterialProperty property) {
   host().load(*context_.screens.auxSpillwayProfile);
   const ApplicationState& state = context_.base.state;
   distributions_ = context_.screens.auxSpillwayProfile->shownDistributions();
-  property_ = property;
-  const auto listed = std::find(kListed.begin(), kListed.end(), property);
-  Combo1.setIndex(static_cast<int>(listed - kListed.begin()));
   txtSeed.setText(state.lhsSeed);
   txtInstance.setText(state.totalInstances);
   (state.bRandomSample ? optRandomSample : optLatinHypercube).setSelected(true);
-  showProperty();
+  select(property);
 }
 
 void frmDist::showProperty() {
@@ -101,11 +98,33 @@ bool frmDist::passes() {
   } else if (txtInstance.text().empty()) {
     fault = "Please enter the Number of Instances";
   } else {
-    fault = distributionFault(distributions_[static_cast<std::size_t>(property_)]);
+    fault = faultToShow();
   }
   if (fault.empty()) return true;
   context_.base.ports.boxes.tell("Data Check", std::string(fault), BoxIcon::warning);
   return false;
+}
+
+// What is wrong with the property on show, or else with another that is drawn, which then comes on show. A constant
+// that is not on show may be without a value: not every property is needed.
+std::string_view frmDist::faultToShow() {
+  const auto faultOf = [this](MaterialProperty property) {
+    return distributionFault(distributions_[static_cast<std::size_t>(property)]);
+  };
+  if (const std::string_view fault = faultOf(property_); !fault.empty()) return fault;
+  for (const MaterialProperty property : kListed) {
+    const bool drawn = distributions_[static_cast<std::size_t>(property)].inUse;
+    if (!drawn || faultOf(property).empty()) continue;
+    select(property);
+    return faultOf(property);
+  }
+  return {};
+}
+
+void frmDist::select(MaterialProperty property) {
+  property_ = property;
+  Combo1.setIndex(static_cast<int>(std::find(kListed.begin(), kListed.end(), property) - kListed.begin()));
+  showProperty();
 }
 
 void frmDist::accept() {

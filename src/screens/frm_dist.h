@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "controls/choices.h"
 #include "controls/simple_controls.h"
@@ -59,11 +60,13 @@ class frmDist : public Screen {
  private:
   using Distributions = std::array<Distribution, kMaterialProperties>;
 
+  void select(MaterialProperty property);  // in the list, and shows it
   void showProperty();
   void leaveProperty();
   void showForm();
   void accept();
   bool passes();
+  std::string_view faultToShow();
 
   InputContext& context_;
   const std::array<Label*, 4> labels_ = {&lblOne, &lblTwo, &lblThree, &lblFour};

@@ -223,6 +223,28 @@ TEST_F(Dist, keepsThePropertyOnShowWhileItIsWrong) {
   });
 }
 
+TEST_F(Dist, showsAnotherPropertyThatIsDrawnAndWrong) {
+  open(screen.cmdDry, [this] {
+    enter("Normal", {"10", "0"});
+    dialog.Combo1.userSelect("Head Cut Index");
+    enter("Pareto", {"2.1", "1"});
+    dialog.Combo1.userSelect("Plasticity Index");
+    dialog.cmdOK.click();
+    dialog.txtOne.userReplace("12");
+    dialog.cmdOK.click();
+    EXPECT_EQ(desk.takeBoxes(),
+              (std::vector<std::string>{"Data Check: Please Enter value for Constant Value",
+                                        "Data Check: Please enter Positive value for Standard Deviation"}));
+    EXPECT_TRUE(dialog.visible());
+    EXPECT_EQ(dialog.Combo1.text() + " " + dialog.cmbDist.text() + " " + dialog.txtTwo.text(), "Dry Density Normal 0");
+    dialog.txtTwo.userReplace("1");
+    dialog.cmdOK.click();
+    EXPECT_FALSE(dialog.visible());
+  });
+  EXPECT_TRUE(desk.takeBoxes().empty());
+  EXPECT_EQ(screen.txtPlastic.text() + " " + screen.txtDry.text() + " " + screen.txtHead.text(), "12 PDF PDF");
+}
+
 TEST_F(Dist, givesTheFocusBackToTheRangeButton) {
   for (Button* range : {&screen.cmdPlastic, &screen.cmdDry, &screen.cmdHeadCut, &screen.cmdPercent, &screen.cmdDetach,
                         &screen.cmdRep}) {
