@@ -37,6 +37,11 @@ Reader fromRun(Member member) {
   return [member](const Application& application) -> Json { return application.runTables.*member; };
 }
 
+template <class Member>
+Reader fromHydrograph(Member member) {
+  return [member](const Application& application) -> Json { return application.shell.input.hydrographData.*member; };
+}
+
 Reader fromSummary(Json (*describe)(const SummaryStore&)) {
   return [describe](const Application& application) { return describe(application.summary); };
 }
@@ -84,8 +89,11 @@ const std::map<std::string, Reader>& readers() {
         {"selectedFields", fromSummary(describeSelectedFields)},
         {"fieldSelected", fromSummary(describeFieldSelected)},
         {"summaryOrder", [](const Application& a) -> Json { return a.summary.summaryOrder(); }},
-        {"hydrographSelected",
-         [](const Application& a) -> Json { return a.shell.input.hydrographData.hydrographSelected; }},
+        {"hydrographSelected", fromHydrograph(&frmHydrographData::hydrographSelected)},
+        {"lastConst", fromHydrograph(&frmHydrographData::lastConst)},
+        {"bConstChanged", fromHydrograph(&frmHydrographData::bConstChanged)},
+        {"bTitleChanged", fromHydrograph(&frmHydrographData::bTitleChanged)},
+        {"bConverted", fromHydrograph(&frmHydrographData::bConverted)},
         {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
         {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
         {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},

@@ -117,6 +117,29 @@ TEST_F(InputOperations, nameTheHydrographThatWasChosen) {
   EXPECT_EQ(column("frmHydrographData", "grdTable", 1, 1, 1), "{'ok':true,'value':[['2']]}");
 }
 
+TEST_F(InputOperations, tellWhatTheHydrographScreenRemembers) {
+  const auto remembered = [this] {
+    std::string all;
+    for (const char* name : {"lastConst", "bConstChanged", "bTitleChanged", "bConverted"}) {
+      all += tell("{'do':'variable','name':'" + std::string(name) + "'}");
+    }
+    return all;
+  };
+  const auto values = [](const std::string& last, const char* constant, const char* title, const char* converted) {
+    return "{'ok':true,'value':'" + last + "'}{'ok':true,'value':" + constant + "}{'ok':true,'value':" + title +
+           "}{'ok':true,'value':" + converted + "}";
+  };
+  EXPECT_EQ(remembered(), values("", "false", "false", "false"));
+  tell("{'do':'set','screen':'frmHydrographData','control':'txtConst','value':'0.5'}");
+  tell("{'do':'set','screen':'frmHydrographData','control':'txtTitle','value':'June'}");
+  EXPECT_EQ(remembered(), values("", "true", "true", "false"));
+  tell("{'do':'leave','screen':'frmHydrographData','control':'txtConst'}");
+  tell("{'do':'leave','screen':'frmHydrographData','control':'txtTitle'}");
+  EXPECT_EQ(remembered(), values("0.5", "false", "false", "false"));
+  tell("{'do':'click','screen':'frmHydrographData','control':'cmdConvert'}");
+  EXPECT_EQ(remembered(), values("0.5", "false", "false", "true"));
+}
+
 TEST_F(InputOperations, exchangeTheStructureTableInFiles) {
   const std::string table = "frmStructureTable";
   memory.putDirectory("/p");
