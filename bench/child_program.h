@@ -44,6 +44,14 @@ class ChildProgram {
     return ::getline(&line_, &room_, out_);
   }
 
+  // The answer to a line, without its line end; empty when there is none.
+  std::string answerTo(const std::string& line) {
+    const long length = ask(line);
+    std::string answer(line_ != nullptr && length > 0 ? line_ : "");
+    while (answer.ends_with('\n')) answer.pop_back();
+    return answer;
+  }
+
   // Runs a program to its end; its exit code.
   static int run(const std::vector<std::string>& words) {
     const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);

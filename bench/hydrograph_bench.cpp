@@ -1,11 +1,12 @@
 // A hydrograph of 5,000 points on its screen, with its history: pasted, imported, converted, and taken back 200 times.
-// Beside each command stands the part of it that does arithmetic or reads text, without tables and history. The same
-// work in numpy is in hydrograph_peer.py.
+// Beside each command stands the part of it that does arithmetic or reads text, without tables and history, and the
+// same work in Python with numpy, which hydrograph_peer.py does and times itself.
 #include <benchmark/benchmark.h>
 
 #include <string>
 
 #include "base/numbers.h"
+#include "child_program.h"
 #include "screens/table_commands.h"
 #include "support/hydrograph_desk.h"
 
@@ -108,12 +109,37 @@ void undoImports(benchmark::State& state) {
   state.counters["history_bytes"] = bytes;
 }
 
+// A turn of the peer, in its own seconds. Without Python or numpy the row says so.
+void inNumpy(benchmark::State& state, const std::string& work) {
+  try {
+    ChildProgram peer({"/usr/bin/python3", KESTRA_BENCH_DIR "/hydrograph_peer.py"});
+    for (auto unused : state) {
+      const std::string answer = peer.answerTo(work + "\n");
+      const auto seconds = realNumber(answer);
+      if (!seconds) {
+        state.SkipWithError(answer.empty() ? "the peer does not answer" : answer.c_str());
+        break;
+      }
+      state.SetIterationTime(*seconds);
+    }
+  } catch (const std::runtime_error& fault) {
+    state.SkipWithError(fault.what());
+  }
+}
+
+// Each command, its bare part, and its peer.
 BENCHMARK(pasteRows)->Unit(benchmark::kMillisecond);
-BENCHMARK(readText)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(inNumpy, pasteRows, "paste_rows")->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(importFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(readText)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(inNumpy, readTextLoadtxt, "read_loadtxt")->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK_CAPTURE(inNumpy, readTextSplit, "read_split")->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(resample)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(inNumpy, resample, "resample")->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(convertTwice)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(inNumpy, convertTwice, "convert_twice")->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(undoImports)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK_CAPTURE(inNumpy, undo, "undo")->Unit(benchmark::kMillisecond)->UseManualTime();
 
 }  // namespace
 }  // namespace kestra
