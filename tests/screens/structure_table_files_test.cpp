@@ -263,11 +263,24 @@ TEST_F(StructureTable, tellsOfValuesThatItsFileCannotHold) {
 
 TEST_F(StructureTable, isNotTouchedByAnOutputWithoutRating) {
   screen.grdTable.setCell(1, 1, "7");
-  desk.files.put("/p/a.OUT", "RATING TABLE NUMBER  3\n1\n2\n3\n     100.5\n");
+  for (const std::string& text : {std::string(), std::string("RATING TABLE NUMBER  3\n1\n2\n3\n     100.5\n"),
+                                  std::string("\x80\0RATING TABLE\xFF", 15), std::string(1 << 20, '9')}) {
+    desk.files.put("/p/a.OUT", text);
+    choose("/p/a.OUT");
+    screen.mnuImportTorve_Click();
+    EXPECT_EQ(desk.takeBoxes(), Boxes{"Select File: The file holds no rating table."});
+    EXPECT_EQ(row(1)[0], "7");
+  }
+}
+
+TEST_F(StructureTable, takesARatingWhoseLinesAreAMegabyteLong) {
+  const std::string rest(1 << 20, '8');
+  desk.files.put("/p/a.OUT", kRating + "    100.5" + std::string(60, ' ') + rest + "\n" + rest + "\n");
   choose("/p/a.OUT");
   screen.mnuImportTorve_Click();
-  EXPECT_EQ(desk.takeBoxes(), Boxes{"Select File: The file holds no rating table."});
-  EXPECT_EQ(row(1)[0], "7");
+  EXPECT_TRUE(desk.takeBoxes().empty());
+  EXPECT_EQ(row(1), (Boxes{"100.5", "", "", ""}));
+  EXPECT_EQ(row(2), (Boxes{"888888888", "8888888888", "8888888888", "8888888888"}));
 }
 
 TEST_F(StructureTable, importsAndExportsTabDelimitedText) {
