@@ -51,6 +51,22 @@ class InputScreens(Flow):
         self.assertEqual(answer["boxes"], [warning("Select File", f'{bad}, line 2: "1,5" is no discharge.')])
         self.assertEqual(self.cells("frmStructureTable", 2, 2), [["7", "1"], ["", ""]])
 
+    def test_tell_how_much_of_a_rating_is_taken_and_of_a_table_saved(self):
+        rows = "".join(f"    {100 + n:<19}{n * 10:<20}{n:<10}\r\n" for n in range(25))
+        rating = self.at("a.OUT")
+        write(rating, f"RATING TABLE NUMBER  2\r\n\r\n\r\n\r\n{rows}{'*' * 21}\r\n".encode())
+        answer = self.kestra.ask("call", name="frmStructureTable.mnuImportTorve_Click", args=[],
+                                 answers=[{"file": rating}])
+        self.assertEqual(answer["boxes"],
+                         [warning("Select File", "The file holds 25 points, of which the first 20 were taken.")])
+        self.assertEqual(self.cells("frmStructureTable", 1, 4), [["100", "0", "0", ""]])
+        self.assertEqual(self.kestra.ask("setcells", screen="frmStructureTable", control="grdTable", row=30, column=1,
+                                         values=[["130"]]), DONE)
+        answer = self.kestra.ask("call", name="frmStructureTable.saveStructureTable", args=[self.at("a.STR")])
+        self.assertEqual(answer, done(boxes=[
+            warning("Save File", "The table holds 21 points, of which the first 20 were written.")]))
+        self.assertEqual(text_of(self.at("a.STR")).count(b"\r\n"), 22)
+
     def test_undo_an_increment_with_its_resampling(self):
         self.kestra.ask("activate", screen="frmHydrographData")
         self.increment("1")
