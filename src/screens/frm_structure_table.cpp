@@ -95,7 +95,8 @@ void frmStructureTable::mnuImportTorve_Click() {
   const auto text = readLines(ports, *file);
   if (!text) return;
   const auto rating = readTorveRating(text.value());
-  rating ? (void)takeFile(*file, *rating) : tellOfFile("The file holds no rating table.");
+  if (!rating) return tellOfFile("The file holds no rating table.");
+  takeFile(*file, *rating);
 }
 
 void frmStructureTable::mnuOpen_Click() {
