@@ -29,14 +29,14 @@ frmHeadcut::frmHeadcut(InputContext& context)
   showChoices();
 }
 
-// The graph needs all five values.
+// The graph needs all five values. It stands in front of this screen, which stays; without it Plot has no effect.
 void frmHeadcut::plot() {
   for (const TextBox* box : {&txta1, &txtb1, &txta2, &txtb2, &txtc2}) {
     if (!trim(box->text()).empty()) continue;
     context_.base.ports.boxes.tell("Insufficient Input", "Enter the Required Values", BoxIcon::warning);
     return;
   }
-  moveTo("frmHeadcutGraph");
+  if (Screen* graph = host().find("frmHeadcutGraph")) host().show(*graph);
 }
 
 void frmHeadcut::showChoices() {

@@ -127,6 +127,14 @@ TEST_F(Headcut, plotsOnlyWithAllFiveValues) {
   screen.cmdPlot.click();
   EXPECT_TRUE(desk.takeBoxes().empty());
   EXPECT_EQ(desk.front(), "frmHeadcutGraph");
+  EXPECT_TRUE(screen.visible());
+}
+
+TEST_F(Headcut, staysWhereThereIsNoGraph) {
+  for (TextBox* box : {&screen.txta1, &screen.txtb1, &screen.txta2, &screen.txtb2, &screen.txtc2}) box->setText("1");
+  screen.cmdPlot.click();
+  EXPECT_TRUE(desk.takeBoxes().empty());
+  EXPECT_EQ(desk.front(), "frmHeadcut");
 }
 
 class BackFromHeadcut : public Headcut, public testing::WithParamInterface<BackCase> {};
