@@ -6,6 +6,7 @@
 #include <string>
 
 #include "fuzz_target.h"
+#include "graphics/canvas_log.h"
 #include "graphics/draw_frame.h"
 #include "graphics/draw_series.h"
 #include "graphs/graph_catalogue.h"

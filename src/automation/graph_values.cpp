@@ -42,20 +42,20 @@ Reader ofSeries(const Value& value) {
 }  // namespace
 
 std::map<std::string, Reader> graphVariables() {
-  using Screen = frmOutputGraph;
+  using Graphs = frmOutputGraph;
   return {
       {"Xmin", ofWindow(&View::Xmin)},
       {"Xmax", ofWindow(&View::Xmax)},
       {"Ymin", ofWindow(&View::Ymin)},
       {"Ymax", ofWindow(&View::Ymax)},
-      {"SavedXmin", ofWindows(&Screen::savedWindows, &View::Xmin)},
-      {"SavedXmax", ofWindows(&Screen::savedWindows, &View::Xmax)},
-      {"SavedYmin", ofWindows(&Screen::savedWindows, &View::Ymin)},
-      {"SavedYmax", ofWindows(&Screen::savedWindows, &View::Ymax)},
-      {"ResumeXmin", ofWindows(&Screen::resumedWindows, &View::Xmin)},
-      {"ResumeXmax", ofWindows(&Screen::resumedWindows, &View::Xmax)},
-      {"ResumeYmin", ofWindows(&Screen::resumedWindows, &View::Ymin)},
-      {"ResumeYmax", ofWindows(&Screen::resumedWindows, &View::Ymax)},
+      {"SavedXmin", ofWindows(&Graphs::savedWindows, &View::Xmin)},
+      {"SavedXmax", ofWindows(&Graphs::savedWindows, &View::Xmax)},
+      {"SavedYmin", ofWindows(&Graphs::savedWindows, &View::Ymin)},
+      {"SavedYmax", ofWindows(&Graphs::savedWindows, &View::Ymax)},
+      {"ResumeXmin", ofWindows(&Graphs::resumedWindows, &View::Xmin)},
+      {"ResumeXmax", ofWindows(&Graphs::resumedWindows, &View::Xmax)},
+      {"ResumeYmin", ofWindows(&Graphs::resumedWindows, &View::Ymin)},
+      {"ResumeYmax", ofWindows(&Graphs::resumedWindows, &View::Ymax)},
       {"BandArmed", ofTools(&GraphTools::BandArmed)},
       {"BandState", ofTools(&GraphTools::BandState)},
       {"ZoomOutMode", ofTools(&GraphTools::ZoomOutMode)},
