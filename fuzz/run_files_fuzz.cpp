@@ -20,18 +20,21 @@ namespace {
 // Where the histories are parted from the output in an input.
 constexpr std::string_view kPart = "\n=\n";
 
-void put(MemoryFileSystem& files, std::string_view text) {
-  for (const char* path : {"/p/dam.OUT", "/p/dam.BRE", "/p/dam.HCT"}) {
-    const std::size_t end = text.find(kPart);
-    files.put(path, std::string(text.substr(0, end)));
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + kPart.size());
-  }
-}
-
-std::string withReturns(const std::string& text) {
+std::string withReturns(std::string_view text) {
   std::string out;
   for (const char c : text) out += c == '\n' ? std::string("\r\n") : std::string(1, c);
   return out;
+}
+
+enum class Ends { asTheyAre, withReturns };
+
+void put(MemoryFileSystem& files, std::string_view text, Ends ends) {
+  for (const char* path : {"/p/dam.OUT", "/p/dam.BRE", "/p/dam.HCT"}) {
+    const std::size_t end = text.find(kPart);
+    const std::string_view part = text.substr(0, end);
+    files.put(path, ends == Ends::withReturns ? withReturns(part) : std::string(part));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + kPart.size());
+  }
 }
 
 struct Drawn {
@@ -40,9 +43,9 @@ struct Drawn {
   View extents;
 };
 
-void read(const std::string& text, const GraphEntry& entry, int column, Drawn& drawn) {
+void read(const std::string& text, Ends ends, const GraphEntry& entry, int column, Drawn& drawn) {
   MemoryFileSystem files;
-  put(files, text);
+  put(files, text, ends);
   const RunFiles run(files, "/p/dam.KSC");
   drawn.series.begin(0);
   drawn.reading = entry.read({run, column, drawn.series, drawn.extents});
@@ -83,7 +86,7 @@ void checkDrawing(const Drawn& drawn, const GraphEntry& entry) {
 
 void check(const std::string& text, const GraphEntry& entry, int column) {
   Drawn drawn;
-  read(text, entry, column, drawn);
+  read(text, Ends::asTheyAre, entry, column, drawn);
   fuzzRequire(drawn.reading.outcome != Reading::Outcome::fileError, "a file that is there can be read");
   if (drawn.reading.outcome == Reading::Outcome::drawn) {
     checkPoints(drawn);
@@ -91,7 +94,7 @@ void check(const std::string& text, const GraphEntry& entry, int column) {
   }
   if (text.find('\r') != std::string::npos) return;
   Drawn again;
-  read(withReturns(text), entry, column, again);
+  read(text, Ends::withReturns, entry, column, again);
   fuzzRequire(again.reading.outcome == drawn.reading.outcome, "it does not matter what ends the lines");
   fuzzRequire(again.extents == drawn.extents, "nor for the extents");
 }

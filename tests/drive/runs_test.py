@@ -93,9 +93,9 @@ class Scripts(Runs):
         texts = lambda: [call[3] for call in drive.value("canvas", screen="frmOutputGraph", control="Pic1(0)")
                          if call[0] == "Print"]
         self.assertEqual(texts(), ["Hydrograph Graph Not Available"])
-        rows = STEM + "printf 'Hydrograph Routing\\n\\n\\n\\n\\n\\n%10s%10s\\n' 2 {} >\"$stem.OUT\"\n"
+        rows = STEM + "printf 'Hydrograph Routing\\n\\n\\n\\n\\n\\n%10s%10s\\n' 2 PEAK >\"${stem}.OUT\"\n"
         for peak in (140, 280):
-            self.solver("KestraSim.exe", rows.format(peak))
+            self.solver("KestraSim.exe", rows.replace("PEAK", str(peak)))
             self.assertTrue(self.build(drive))
             self.assertEqual(texts()[0], "Hydrographs")
             self.assertEqual([drive.value("variable", name="Saved" + end)[0] for end in ("Xmax", "Ymax")],
