@@ -21,6 +21,7 @@ Application::Application(const Ports& given, const std::string& applicationDirec
   shell.fileDesk.runs = &builds;
   host.enter(summaryFields);
   shell.inputWindow.mnuSpecifySum.onClick = [this] { host.show(summaryFields); };
+  runSummary.onRefreshGraphs = [this] { shell.graphs.output.GetGraphToOpen(); };
   shell.projects.onChanged = [this] { followProject(); };
 }
 

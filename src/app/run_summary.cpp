@@ -24,4 +24,8 @@ void RunSummary::refreshOpenFiles() {
   if (onRefreshOpenFiles) onRefreshOpenFiles();
 }
 
+void RunSummary::refreshGraphs() {
+  if (onRefreshGraphs) onRefreshGraphs();
+}
+
 }  // namespace kestra

@@ -19,10 +19,12 @@ class RunSummary : public SummaryUpdates {
   void ModifyTable(int entryIndex) override;
   void refreshTable() override;
   void refreshOpenFiles() override;
+  void refreshGraphs() override;
 
   std::function<void(int entryIndex)> onModifyTable;
   std::function<void()> onRefreshTable;
   std::function<void()> onRefreshOpenFiles;
+  std::function<void()> onRefreshGraphs;
 
  private:
   SummaryStore& store_;

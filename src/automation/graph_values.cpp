@@ -13,10 +13,12 @@ Reader ofWindow(double View::*end) {
   return [end](const Application& a) -> Json { return graphsOf(a).workingWindow().*end; };
 }
 
-Reader ofSavedWindows(double View::*end) {
-  return [end](const Application& a) {
+using Windows = std::array<View, GraphTools::kMostGraphs>;
+
+Reader ofWindows(const Windows& (frmOutputGraph::*windows)() const, double View::*end) {
+  return [windows, end](const Application& a) {
     Json list = Json::array();
-    for (const View& window : graphsOf(a).savedWindows()) list.push_back(window.*end);
+    for (const View& window : (graphsOf(a).*windows)()) list.push_back(window.*end);
     return list;
   };
 }
@@ -40,21 +42,32 @@ Reader ofSeries(const Value& value) {
 }  // namespace
 
 std::map<std::string, Reader> graphVariables() {
+  using Graphs = frmOutputGraph;
   return {
       {"Xmin", ofWindow(&View::Xmin)},
       {"Xmax", ofWindow(&View::Xmax)},
       {"Ymin", ofWindow(&View::Ymin)},
       {"Ymax", ofWindow(&View::Ymax)},
-      {"SavedXmin", ofSavedWindows(&View::Xmin)},
-      {"SavedXmax", ofSavedWindows(&View::Xmax)},
-      {"SavedYmin", ofSavedWindows(&View::Ymin)},
-      {"SavedYmax", ofSavedWindows(&View::Ymax)},
+      {"SavedXmin", ofWindows(&Graphs::savedWindows, &View::Xmin)},
+      {"SavedXmax", ofWindows(&Graphs::savedWindows, &View::Xmax)},
+      {"SavedYmin", ofWindows(&Graphs::savedWindows, &View::Ymin)},
+      {"SavedYmax", ofWindows(&Graphs::savedWindows, &View::Ymax)},
+      {"ResumeXmin", ofWindows(&Graphs::resumedWindows, &View::Xmin)},
+      {"ResumeXmax", ofWindows(&Graphs::resumedWindows, &View::Xmax)},
+      {"ResumeYmin", ofWindows(&Graphs::resumedWindows, &View::Ymin)},
+      {"ResumeYmax", ofWindows(&Graphs::resumedWindows, &View::Ymax)},
       {"BandArmed", ofTools(&GraphTools::BandArmed)},
       {"BandState", ofTools(&GraphTools::BandState)},
       {"ZoomOutMode", ofTools(&GraphTools::ZoomOutMode)},
       {"PanMode", ofTools(&GraphTools::PanMode)},
       {"DragMode", ofTools(&GraphTools::DragMode)},
       {"PointerMode", ofTools(&GraphTools::PointerMode)},
+      {"DragStartX", ofTools(&GraphTools::DragStartX)},
+      {"DragStartY", ofTools(&GraphTools::DragStartY)},
+      {"BandX1", ofTools(&GraphTools::BandX1)},
+      {"BandY1", ofTools(&GraphTools::BandY1)},
+      {"BandX2", ofTools(&GraphTools::BandX2)},
+      {"BandY2", ofTools(&GraphTools::BandY2)},
       {"SeriesCount", [](const Application& a) -> Json { return graphsOf(a).series().SeriesCount; }},
       {"PointCount", ofSeries([](const Series& series) { return series.PointCount(); })},
       {"SeriesName", ofSeries([](const Series& series) { return series.SeriesName; })},

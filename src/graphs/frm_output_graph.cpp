@@ -57,6 +57,7 @@ void frmOutputGraph::forgetFile() {
   controlFile_.clear();
   saved_ = {};
   resume_ = {};
+  whole_ = {};
   memos_ = {};
   drawn_ = {};
   notices_ = {};
@@ -80,6 +81,9 @@ void frmOutputGraph::OpenFile(const std::string& path, bool spillwayAnalysis) {
 void frmOutputGraph::GetGraphToOpen() {
   if (controlFile_.empty()) controlFile_ = context_.base.state.currentFile;
   setTitle(controlFile_.empty() ? kUntitled : "Graphics [ " + controlFile_ + " ]");
+  for (std::size_t n = 0; n < saved_.size(); ++n) {
+    if (saved_[n] == whole_[n]) saved_[n] = {};
+  }
   ReDrawGraph(shown_);
 }
 
@@ -147,10 +151,12 @@ void frmOutputGraph::draw(int number, int column) {
     }
     return;
   }
-  if (window_.Xmin == 0 && window_.Xmax == 0) window_ = extents;
+  const bool whole = window_.Xmin == 0 && window_.Xmax == 0;
+  if (whole) window_ = extents;
   try {
     drawSeries(number);
     saved_[at(number)] = window_;
+    if (whole) whole_[at(number)] = window_;
   } catch (const ScalingFault& fault) {
     context_.base.ports.boxes.tell("Warning", fault.what(), BoxIcon::warning);
   }

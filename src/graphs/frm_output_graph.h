@@ -62,7 +62,7 @@ class frmOutputGraph : public GraphScreen, public GraphToolHost {
   // the spillway graphs.
   void OpenFile(const std::string& path, bool spillwayAnalysis = false);
   // Takes over the open control file where none was chosen before, names it in the caption, and draws the shown graph
-  // anew.
+  // anew. Graphs that were shown whole will be so again, whatever a run has changed; a part that the user chose stays.
   void GetGraphToOpen();
   void forgetFile();  // shows no run: "Graphics [ Untitled ]"
 
@@ -76,13 +76,14 @@ class frmOutputGraph : public GraphScreen, public GraphToolHost {
 
   // Reads the series of a graph without drawing it: its CSV text, or nothing when it cannot be drawn.
   std::optional<std::string> csvOf(int number);
-  bool isDrawn(int number) const { return drawn_[at(number)]; }  // or its canvas shows a notice
+  bool isDrawn(int number) const override { return drawn_[at(number)]; }  // or its canvas shows a notice
   const std::string& notice(int number) const { return notices_[at(number)]; }
 
   View& window() override { return window_; }
   const View& workingWindow() const { return window_; }
   View& savedWindow(int number) override { return saved_[at(number)]; }
   const std::array<View, GraphTools::kMostGraphs>& savedWindows() const { return saved_; }
+  const std::array<View, GraphTools::kMostGraphs>& resumedWindows() const { return resume_; }
   int shownGraph() const override { return shown_; }
   const std::string& controlFile() const { return controlFile_; }
   const SeriesStore& series() const { return series_; }
@@ -127,6 +128,7 @@ class frmOutputGraph : public GraphScreen, public GraphToolHost {
   View window_;
   std::array<View, GraphTools::kMostGraphs> saved_{};
   std::array<View, GraphTools::kMostGraphs> resume_{};
+  std::array<View, GraphTools::kMostGraphs> whole_{};  // the window in which a graph was last shown whole
   std::array<ScaleMemo, kGraphs> memos_{};
   std::array<bool, kGraphs> drawn_{};
   std::array<std::string, kGraphs> notices_{};

@@ -197,7 +197,8 @@ void GraphTools::GenericMouseUp(GraphPane& pane, int button, float x, float y, i
   } else {
     changed = false;
   }
-  if (changed) host_.savedWindow(number) = w;
+  // On a notice there is no part of a graph to choose.
+  if (changed && host_.isDrawn(number)) host_.savedWindow(number) = w;
   host_.ReDrawGraph(number);
 }
 

@@ -48,6 +48,7 @@ class GraphToolHost {
   virtual View& window() = 0;                 // the working window
   virtual View& savedWindow(int number) = 0;  // of a graph
   virtual int shownGraph() const = 0;
+  virtual bool isDrawn(int) const { return true; }  // or a notice stands in the graph's place
   virtual void ReDrawGraph(int number) = 0;
   virtual void SetMouse(int image) = 0;  // shape of the mouse over the canvases; 0 the normal one
   // Text of the read-out at a place of a canvas, in its units.

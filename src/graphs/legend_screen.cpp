@@ -25,6 +25,11 @@ void LegendScreen::unload() {
   selected_ = first_;
 }
 
+bool LegendScreen::queryUnload(CloseReason reason, bool bExiting) {
+  if (reason == CloseReason::userFrame && !bExiting) leave();
+  return true;
+}
+
 void LegendScreen::leave() {
   const std::string back = std::exchange(returnTo_, {});
   host().unload(*this);

@@ -26,6 +26,7 @@ class LegendScreen : public GraphScreen {
 
   void activate() override { drawLegend(); }
   void unload() override;
+  bool queryUnload(CloseReason reason, bool bExiting) override;  // closed by its frame it leads back as well
   virtual void drawRow(int row, double top) = 0;
   virtual void drawHeader() {}
   virtual double headerHeight() const { return 0; }

@@ -48,6 +48,12 @@ constexpr int kFirstAuxiliary = 3;
 constexpr int kOvertop = 6;
 constexpr int kTotal = 7;
 
+// The number of an auxiliary spillway, as its record gives it; `otherwise` where it gives none.
+int spillwayNumber(std::string_view record, int otherwise) {
+  const std::string_view digit = columns(record, 12, 1);
+  return digit == "1" || digit == "2" || digit == "3" ? digit.front() - '0' : otherwise;
+}
+
 // The auxiliary spillways that the echo names, as columns of the ratings.
 std::vector<RatingColumn> auxiliaryColumns(const std::string& text, const std::string& prefix) {
   constexpr int kMost = 3;
@@ -58,8 +64,10 @@ std::vector<RatingColumn> auxiliaryColumns(const std::string& text, const std::s
     return keyword == "ASSURFACE" || keyword == "ASRATING";
   };
   std::vector<RatingColumn> found;
-  while (found.size() < kMost && reader.find(isSpillway)) {
-    const int number = static_cast<int>(found.size()) + 1;
+  while (found.size() < kMost) {
+    const auto record = reader.find(isSpillway);
+    if (!record) break;
+    const int number = spillwayNumber(*record, static_cast<int>(found.size()) + 1);
     found.push_back({prefix + std::to_string(number), kFirstAuxiliary + number - 1});
   }
   return found;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <optional>
 
@@ -29,8 +30,10 @@ std::optional<double> lowestCrest(RunReader reader) {
   constexpr int kElevation = 21;
   if (!reader.findRecord("CRESTPRFL")) return std::nullopt;
   double lowest = std::numeric_limits<double>::infinity();
-  const int rows = reader.tableRows([&](const RunRow& row) { lowest = std::min(lowest, echoField(row, kElevation)); });
-  return rows > 0 ? std::optional(lowest) : std::nullopt;
+  reader.tableRows([&](const RunRow& row) {
+    if (!trim(row.text(kElevation + 1, kEchoWidth)).empty()) lowest = std::min(lowest, echoField(row, kElevation));
+  });
+  return std::isfinite(lowest) ? std::optional(lowest) : std::nullopt;
 }
 
 // Appends the reservoir's level while it is drawn down, where the run has computed that.

@@ -1,5 +1,6 @@
 #include <optional>
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "graphs/graph_reader.h"
 #include "graphs/run_rows.h"
@@ -17,7 +18,7 @@ struct Column {
   int width;
 };
 
-constexpr int kRiprapHeadings = 2;
+constexpr int kMostRiprapHeadings = 4;
 constexpr int kStressHeadings = 4;
 constexpr Column kRiprapAllowable = {"Allowable", 31, 20};
 constexpr Column kRiprapDischarge = {"Discharge", 13, 18};
@@ -33,8 +34,7 @@ bool isRiprapRun(RunReader reader) {
   return option && trim(RunRow(*option).text(kSurface, kEchoWidth)) == "RIPRAP";
 }
 
-Reading drawTable(const GraphRequest& graph, RunReader& reader, int headings, std::initializer_list<Column> columns) {
-  reader.skip(headings);
+Reading drawTable(const GraphRequest& graph, RunReader& reader, std::initializer_list<Column> columns) {
   for (const Column& column : columns) graph.series.addSeries(column.name);
   reader.rows([&](const RunRow& row) {
     int line = 0;
@@ -45,21 +45,32 @@ Reading drawTable(const GraphRequest& graph, RunReader& reader, int headings, st
   return fitted(graph, Fit::fromZero, Fit::fromZero);
 }
 
+// Goes to the first row of the table over riprap: the first line behind its heading that begins with a number.
 bool findRiprap(RunReader& reader) {
   const auto isAnchor = [](std::string_view line) { return trim(line).starts_with("Flow on Riprapped Embankment"); };
-  return reader.find(isAnchor).has_value();
+  if (!reader.find(isAnchor)) return false;
+  for (int i = 0; i <= kMostRiprapHeadings; ++i) {
+    RunReader next = reader;
+    const auto line = next.find([](std::string_view) { return true; });
+    if (!line) return false;
+    if (realNumber(trim(RunRow(*line).text(1, kWidth)))) return true;
+    reader = next;
+  }
+  return false;
 }
 
 // The table of a run over riprap; nothing when the slope of the run is another one.
 std::optional<Reading> drawRiprap(const GraphRequest& graph, const std::string& text, const Column& column) {
   RunReader reader(text);
   if (!isRiprapRun(reader)) return std::nullopt;
-  return findRiprap(reader) ? drawTable(graph, reader, kRiprapHeadings, {column}) : Reading();
+  return findRiprap(reader) ? drawTable(graph, reader, {column}) : Reading();
 }
 
 Reading drawSlope(const GraphRequest& graph, const std::string& text, std::initializer_list<Column> columns) {
   RunReader reader(text);
-  return reader.findPart("Stress on") ? drawTable(graph, reader, kStressHeadings, columns) : Reading();
+  if (!reader.findPart("Stress on")) return {};
+  reader.skip(kStressHeadings);
+  return drawTable(graph, reader, columns);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <QPolygonF>
 #include <algorithm>
 
+#include "render/long_line.h"
+
 namespace kestra {
 
 QFont fontFor(double pixels, bool bold) {
@@ -31,14 +33,20 @@ void PainterBrush::ground(PictureSize size, std::uint32_t value) {
   painter_.setRenderHint(QPainter::Antialiasing);
 }
 
-// A long line on pixels is drawn in pieces that overlap by their caps: the time for a wide one grows with the square of
-// its length.
+bool PainterBrush::onPixels() const {
+  return raster_ && painter_.deviceTransform().isIdentity() &&
+         painter_.compositionMode() == QPainter::CompositionMode_SourceOver;
+}
+
+// A long line under a transformation is drawn in pieces that overlap by their caps: the time for a wide one grows with
+// the square of its length.
 void PainterBrush::line(const std::vector<PicturePoint>& points, const Ink& ink) {
   constexpr std::size_t kPiece = 16;
+  const bool inPieces = raster_ && ink.style == kSolid && points.size() > kPiece;
+  if (inPieces && onPixels()) return paintLongLine(painter_, points, ink.width, color(ink.color));
   QPolygonF whole;
   whole.reserve(static_cast<qsizetype>(points.size()));
   for (const PicturePoint& point : points) whole.append(QPointF(point.x, point.y));
-  const bool inPieces = raster_ && ink.style == kSolid && points.size() > kPiece;
   QPen tip = pen(ink);
   if (inPieces) tip.setCapStyle(Qt::RoundCap);
   painter_.setPen(tip);

@@ -26,6 +26,7 @@ class PainterBrush : public PictureBrush {
  private:
   static QColor color(std::uint32_t value);
   static QPen pen(const Ink& ink);
+  bool onPixels() const;  // the painter's places are those of the pixels
 
   QPainter& painter_;
   bool raster_;

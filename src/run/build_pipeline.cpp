@@ -174,9 +174,11 @@ void BuildPipeline::enterInSummary(const Names& names) {
   const std::string digest = names.base + ".DIS";
   const int entry = summary.LoadDigestEntry(0, findFile(context_.ports.files, digest).value_or(digest), names.run);
   summary.SaveSummaryStore(joinPath(context_.state.projectDir, "SUMMARY.IDE"));
-  if (!context_.state.window(static_cast<int>(WindowSlot::summaryTable))) return;
-  summary.ModifyTable(entry);
-  summary.refreshOpenFiles();
+  if (context_.state.window(static_cast<int>(WindowSlot::summaryTable))) {
+    summary.ModifyTable(entry);
+    summary.refreshOpenFiles();
+  }
+  if (context_.state.window(static_cast<int>(WindowSlot::outputGraph))) summary.refreshGraphs();
 }
 
 void BuildPipeline::tellOff(const std::string& text) {

@@ -115,6 +115,7 @@ class SpillwayRun {
       summary.ModifyTable(entry);
       summary.refreshOpenFiles();
     }
+    if (context_.state.window(static_cast<int>(WindowSlot::outputGraph))) summary.refreshGraphs();
     return true;
   }
 

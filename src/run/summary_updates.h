@@ -13,10 +13,12 @@ class SummaryUpdates {
   virtual void SaveSummaryStore(const std::string& path) = 0;
   virtual void LoadSummaryStore() = 0;
 
-  // While the summary table and the output graph are open:
+  // While the summary table is open:
   virtual void ModifyTable(int entryIndex) = 0;  // shows an entry that was entered anew
   virtual void refreshTable() = 0;
-  virtual void refreshOpenFiles() = 0;  // GetFileToOpen of the table, GetGraphToOpen of the graph
+  virtual void refreshOpenFiles() = 0;  // GetFileToOpen
+  // While the output graphs are open:
+  virtual void refreshGraphs() = 0;  // GetGraphToOpen
 };
 
 }  // namespace kestra

@@ -86,6 +86,31 @@ class Graphs(Flow):
         drive.end()
         self.assertEqual(self.drive().value("variable", name="ColorList(2)"), 4711)
 
+    def test_have_colours_and_lines_that_the_input_window_leads_to(self):
+        drive = self.drive()
+        self.assertEqual(drive.ask("activate", screen="frmKestra"), DONE)
+        for command, screen in (("mnuColors", "frmUpdateColors"), ("mnuSpecifyLines", "frmUpdateLines")):
+            menu = drive.value("get", screen="frmKestra", control=command)
+            self.assertEqual((menu["visible"], menu["enabled"]), (True, True))
+            self.assertEqual(drive.click("frmKestra", command), DONE)
+            self.assertEqual(drive.state("visible")[0], screen)
+            if screen == "frmUpdateLines":
+                self.assertEqual(drive.ask("set", screen=screen, control="styleCombo(3)", value="Dot"), DONE)
+                self.assertEqual(drive.ask("set", screen=screen, control="widthCombo(13)", value="4"), DONE)
+            self.assertEqual(drive.click(screen, "mnuExit"), DONE)
+            self.assertEqual(drive.state("visible")[0], "frmKestra")
+        drive.end()
+        self.assertEqual(text_of(self.settings).decode().split()[:4], ["[ComboList]", "3=2", "[WidthList]", "13=4"])
+        drive = self.drive()
+        self.assertEqual(drive.value("variable", name="ComboList"), [0, 0, 0, 2] + 10 * [0])
+        self.assertEqual(drive.value("variable", name="WidthList"), [0, 2, 2, 2, 2, 2, 2, 1, 2, 2, 2, 1, 1, 4])
+
+    def test_are_on_show_again_when_the_colours_are_closed_by_the_frame(self):
+        drive = self.opened()
+        self.assertEqual(drive.ask("dblclick", screen="frmOutputGraph", control="Pic1(0)"), DONE)
+        self.assertEqual(drive.ask("close", screen="frmUpdateColors")["ok"], True)
+        self.assertEqual(drive.state("visible")[0], "frmOutputGraph")
+
     def test_are_saved_copied_and_printed_or_the_reason_is_told(self):
         drive = self.opened()
         box = {"title": "Printer Error", "text": "Unable to print graph, check printer.", "icon": "warning",

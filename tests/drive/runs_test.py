@@ -87,6 +87,20 @@ class CommandLine(Runs):
 
 
 class Scripts(Runs):
+    def test_draw_the_open_graphs_anew_after_a_build(self):
+        drive = self.open(self.control("pond.KSC"))
+        self.assertEqual(drive.ask("activate", screen="frmOutputGraph")["ok"], True)
+        texts = lambda: [call[3] for call in drive.value("canvas", screen="frmOutputGraph", control="Pic1(0)")
+                         if call[0] == "Print"]
+        self.assertEqual(texts(), ["Hydrograph Graph Not Available"])
+        rows = STEM + "printf 'Hydrograph Routing\\n\\n\\n\\n\\n\\n%10s%10s\\n' 2 PEAK >\"${stem}.OUT\"\n"
+        for peak in (140, 280):
+            self.solver("KestraSim.exe", rows.replace("PEAK", str(peak)))
+            self.assertTrue(self.build(drive))
+            self.assertEqual(texts()[0], "Hydrographs")
+            self.assertEqual([drive.value("variable", name="Saved" + end)[0] for end in ("Xmax", "Ymax")],
+                             [2, {140: 140, 280: 300}[peak]])
+
     def test_run_each_step_by_its_name(self):
         path = self.control("pond.KSC", CONTROL + SPILLWAY.format(2))
         drive = self.open(path)

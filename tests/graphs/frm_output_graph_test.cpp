@@ -149,11 +149,27 @@ TEST_F(TheGraphScreen, forgetsTheWindowsOfTheRunBefore) {
 
 TEST_F(TheGraphScreen, isDrawnAnewAfterARun) {
   open();
+  screen.ReDrawGraph(3);
+  screen.ReDrawGraph(0);
+  screen.ReDrawGraph(0);
+  run.routing[1][1] = 1900;
+  run.crest = echoed({"CRESTPRFL"}) + echoed({"", "0", "1030"}) + echoed({"", "100", "1024"}) + " ENDTABLE\n";
+  putRun();
+  screen.GetGraphToOpen();
+  EXPECT_EQ(screen.savedWindow(0), (View{0, 4, 0, 2000}));
+  screen.mnuGraph(3).click();
+  EXPECT_EQ(screen.savedWindow(3), (View{0, 100, 1024, 1030}));
+}
+
+TEST_F(TheGraphScreen, keepsThePartThatTheUserChoseThroughARun) {
+  open();
+  mouse(0, MouseEvent::Type::down, 1, 250);
+  mouse(0, MouseEvent::Type::up, 1, 250);
+  const View chosen = screen.savedWindow(0);
   run.routing[1][1] = 1900;
   putRun();
-  screen.savedWindow(0) = {};
   screen.GetGraphToOpen();
-  EXPECT_EQ(screen.savedWindow(0).Ymax, 2000);
+  EXPECT_EQ(screen.savedWindow(0), chosen);
 }
 
 TEST_F(TheGraphScreen, tellsWhenThereIsNoScale) {

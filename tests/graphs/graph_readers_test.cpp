@@ -73,6 +73,33 @@ TEST_F(AGraph, ofARiprapRunShowsItsOwnTable) {
   expectNotice(11, "Max Overtopping/Breach Discharge Graph Not Available");
 }
 
+TEST_F(AGraph, ofARiprapRunBeginsWhereItsRowsDo) {
+  run.makeRiprap();
+  const std::string rows = SampleRun::riprapRow(1.5, 8, 65) + SampleRun::riprapRow(4, 2, 20);
+  for (const char* headings : {"", " a\n", " a\n (hr)  65\n\n -----\n"}) {
+    run.riprap = "Flow on Riprapped Embankment Slope\n" + std::string(headings) + rows + "\n";
+    putRun();
+    draw(4);
+    EXPECT_EQ(allSeries(), Lines{"Allowable: 1.5,65 4,20"}) << headings;
+    draw(11);
+    EXPECT_EQ(allSeries(), Lines{"Discharge: 1.5,8 4,2"}) << headings;
+  }
+  run.riprap = "Flow on Riprapped Embankment Slope\n a\n b\n\n c\n d\n" + rows;
+  putRun();
+  expectNotice(4, "Overtopping Stress Graph Not Available");
+}
+
+TEST_F(AGraph, ofTheHeadTakesNoRowWithoutAnElevationForTheCrest) {
+  run.crest = echoed({"CRESTPRFL"}) + echoed({"", "0", "1026"}) + echoed({"", "50"}) + echoed({"", "100", "1024"}) +
+              " ENDTABLE\n";
+  putRun();
+  draw(1);
+  EXPECT_EQ(seriesText(0), "Head: 0,-8 1.5,0.5 4,-2");
+  run.crest = echoed({"CRESTPRFL"}) + echoed({"", "50"}) + " ENDTABLE\n";
+  putRun();
+  expectNotice(1, "Maximum Overtopping Head Graph Not Available");
+}
+
 TEST_F(AGraph, ofTheWaterSurfaceGoesOnThroughTheDrawdown) {
   run.makeDrawdown();
   (void)files.removeFile("/p/dam.BRE");
@@ -91,6 +118,14 @@ TEST_F(AGraph, withASingleSpillwayHasOneSeriesForIt) {
   EXPECT_EQ(allSeries(), Lines{"Aux. 1: 0,1000 40,1020 300,1026"});
   draw(10);
   EXPECT_EQ(screen.series().SeriesCount, 4);
+  run.spillways = echoed({"ASSURFACE", "2West", "3"});
+  putRun();
+  draw(9);
+  EXPECT_EQ(allSeries(), Lines{"Aux. 2: 0,1000 20,1020 90,1026"});
+  run.spillways = echoed({"ASRATING", "Bywash", "0"});
+  putRun();
+  draw(9);
+  EXPECT_EQ(allSeries(), Lines{"Aux. 1: 0,1000 40,1020 300,1026"});
   run.spillways.clear();
   putRun();
   expectNotice(9, "Auxiliary Spillway Ratings Graph Not Available");
@@ -210,6 +245,41 @@ TEST_F(AGraph, comesThroughAFileThatIsCutAnywhere) {
     }
   }
   EXPECT_EQ(takeBoxes(), Lines{});
+}
+
+// A run that is still being written, or begun anew: behind each look at a file stands another state of it.
+struct ChangingFiles : MemoryFileSystem {
+  Result<std::string> readStart(const std::string& path, std::uint64_t most) override {
+    Result<std::string> now = MemoryFileSystem::readStart(path, most);
+    if (now) put(path, now.value().substr(0, now.value().size() * 9 / 10));
+    return now;
+  }
+};
+
+TEST_F(AGraph, showsOneStateOfAFileThatChangesWhileItIsRead) {
+  ChangingFiles changing;
+  changing.put("/p/dam.OUT", run.out());
+  changing.put("/p/dam.BRE", run.bre);
+  changing.put("/p/dam.HCT", run.hct);
+  const RunFiles seen(changing, "/p/dam.KSC");
+  SeriesStore series;
+  const auto readsFrom = [&](int number) {
+    View extents;
+    series.begin(0);
+    const GraphEntry& entry = graphEntry(number);
+    return entry.read({seen, entry.column, series, extents}).outcome;
+  };
+  EXPECT_EQ(readsFrom(11), Reading::Outcome::drawn);
+  EXPECT_EQ(series(0).PlotY, (std::vector<float>{0, 12.5}));
+  EXPECT_EQ(readsFrom(1), Reading::Outcome::drawn);
+  EXPECT_EQ(series(0).PlotY, (std::vector<float>{-8, 0.5, -2}));
+  for (int i = 0; i < 60; ++i) {
+    for (int n = 0; n < kGraphs; ++n) {
+      if (graphEntry(n).read == nullptr) continue;
+      EXPECT_NE(readsFrom(n), Reading::Outcome::fileError) << n;
+    }
+  }
+  EXPECT_EQ(readsFrom(0), Reading::Outcome::missing);
 }
 
 TEST_F(AGraph, passesOverACommentThatSpeaksOfItsTable) {

@@ -192,6 +192,18 @@ TEST_F(TheTools, alwaysDrawTheGraphAgainWhenTheMouseIsReleased) {
   EXPECT_EQ(saved(), (View{0, 4, 0, 1000}));
 }
 
+TEST_F(TheTools, chooseNothingOnANotice) {
+  (void)files.removeFile("/p/dam.OUT");
+  screen.mnuFrame.click();
+  screen.mnuZoomIn.click();
+  click(50, 50);
+  EXPECT_EQ(tools.BandState, 0);
+  EXPECT_EQ(saved(), View());
+  putRun();
+  screen.ReDrawGraph(0);
+  EXPECT_EQ(saved(), (View{0, 4, 0, 1000}));
+}
+
 TEST_F(TheTools, keepAnUnroundedWindowThatWasOnlyMoved) {
   screen.mnuDrag.click();
   mouse(0, Type::down, 1, 0);

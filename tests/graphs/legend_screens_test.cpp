@@ -62,6 +62,18 @@ TEST_F(TheLegends, leadBackToAnyScreenThatHasOpenedThem) {
   EXPECT_EQ(front(), "frmHydroGraph");
 }
 
+TEST_F(TheLegends, leadBackWhenTheyAreClosedByTheirFrame) {
+  open();
+  mouse(0, MouseEvent::Type::doubleClick, 1, 1);
+  EXPECT_TRUE(host.closeByFrame(colors));
+  EXPECT_EQ(front(), "frmOutputGraph");
+  EXPECT_FALSE(colors.loaded());
+  mouse(0, MouseEvent::Type::doubleClick, 1, 1);
+  state.bExiting = true;
+  EXPECT_TRUE(host.closeByFrame(colors));
+  EXPECT_FALSE(screen.visible());
+}
+
 TEST_F(TheLegends, listTheLinesWithTheirPens) {
   styles.openFrom("frmOutputGraph");
   const Lines texts = textsOn(styles.LegendPic);

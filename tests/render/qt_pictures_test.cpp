@@ -197,5 +197,37 @@ TEST_F(Pictures, lookTheSameToTheEyeWhenLinesAreThinned) {
   EXPECT_LT(differing, size.width * size.height / 50);
 }
 
+TEST_F(Pictures, haveLongLinesWhereShortOnesWouldBe) {
+  canvas.Scale(0, 0, 300, 200);
+  canvas.ForeColor(kRed);
+  canvas.DrawWidth(3);
+  std::mt19937 random(3);
+  std::uniform_real_distribution<double> place(-40, 340);
+  canvas.moveTo(150, 100);
+  for (int i = 0; i < 60; ++i) canvas.LineTo(place(random), place(random));
+  canvas.LineTo(canvas.CurrentX(), canvas.CurrentY());
+  RecordingCanvas apart;
+  apart.Scale(0, 0, 300, 200);
+  apart.ForeColor(kRed);
+  apart.DrawWidth(3);
+  for (const CanvasCall& call : canvas.log().calls()) {
+    if (call.op != CanvasOp::Line) continue;
+    apart.Line(call.numbers[0], call.numbers[1], call.numbers[2], call.numbers[3]);
+    apart.ForeColor(kRed);  // ends the line
+  }
+  const PictureSize size = {600, 400};
+  const QImage whole = painted(canvas.log(), size, size.width);
+  const QImage pieces = painted(apart.log(), size, size.width);
+  int inked = 0;
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      inked += whole.pixel(x, y) == pieces.pixel(x, y) && whole.pixel(x, y) != whole.pixel(0, 0) ? 1 : 0;
+      if (!isPlain(whole, x, y) || !isPlain(pieces, x, y)) continue;
+      EXPECT_EQ(whole.pixel(x, y), pieces.pixel(x, y)) << x << ", " << y;
+    }
+  }
+  EXPECT_GT(inked, 5000);
+}
+
 }  // namespace
 }  // namespace kestra

@@ -312,6 +312,15 @@ TEST_F(BuildPipelineTest, refreshesTheWindowsWithResultsWhileTheyAreOpen) {
   EXPECT_TRUE(build());
   EXPECT_THAT(summary.calls,
               ElementsAre("enter 0 /p/dam.DIS as dam", "save /p/SUMMARY.IDE", "modify 1", "refresh open files"));
+  state.windowOpen[3] = true;
+  summary.calls.clear();
+  EXPECT_TRUE(build());
+  EXPECT_THAT(summary.calls, ElementsAre("enter 0 /p/dam.DIS as dam", "save /p/SUMMARY.IDE", "modify 2",
+                                         "refresh open files", "refresh graphs"));
+  state.windowOpen[2] = false;
+  summary.calls.clear();
+  EXPECT_TRUE(build());
+  EXPECT_THAT(summary.calls, ElementsAre("enter 0 /p/dam.DIS as dam", "save /p/SUMMARY.IDE", "refresh graphs"));
 }
 
 }  // namespace

@@ -27,6 +27,7 @@ class RecordingSummary : public SummaryUpdates {
   void ModifyTable(int entryIndex) override { calls.push_back("modify " + std::to_string(entryIndex)); }
   void refreshTable() override { calls.emplace_back("refresh table"); }
   void refreshOpenFiles() override { calls.emplace_back("refresh open files"); }
+  void refreshGraphs() override { calls.emplace_back("refresh graphs"); }
 
   std::vector<std::string> calls;
   int entries = 0;

@@ -158,6 +158,14 @@ TEST_F(SpillwayCaseTest, refreshesTheSummaryTableWhileItIsOpen) {
   EXPECT_THAT(summary.calls, ElementsAre("load", "refresh table"));
 }
 
+TEST_F(SpillwayCaseTest, refreshesTheGraphsAfterEachAlternativeWhileTheyAreOpen) {
+  solveAlternatives();
+  state.windowOpen[3] = true;
+  run(instance({record({"BTMWIDTH", "FEET", "50", "60"})}));
+  EXPECT_THAT(std::vector<std::string>(summary.calls.begin(), summary.calls.begin() + 3),
+              ElementsAre("enter 25 /p/dam/dam1_0/a.DIS as dam1_0/a", "save /p/SUMMARY.IDE", "refresh graphs"));
+}
+
 TEST_F(SpillwayCaseTest, runsEachWidthWithEachCrestByTheDamSolver) {
   solveAlternatives();
   state.windowOpen[2] = true;
