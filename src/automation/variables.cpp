@@ -79,6 +79,7 @@ const std::map<std::string, Reader>& readers() {
         {"fieldTitles", [](const Application& a) { return describeFieldTitles(a.shell.catalogues); }},
         {"fieldCount", [](const Application& a) { return describeFieldCount(a.shell.catalogues); }},
         {"digestFields", fromRun(&RunTables::digestFields)},
+        {"spillwayControlText", fromRun(&RunTables::spillwayControlText)},
         {"spillwayName", fromRun(&RunTables::spillwayName)},
         {"spillwayAnalysisFlag", fromRun(&RunTables::spillwayAnalysisFlag)},
         {"spillwayRatingFlag", fromRun(&RunTables::spillwayRatingFlag)},

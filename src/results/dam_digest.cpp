@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/fields.h"
+#include "base/numbers.h"
 #include "base/text.h"
 #include "results/breach_history.h"
 #include "results/dam_output_reader.h"
@@ -13,7 +14,11 @@ namespace kestra {
 
 std::string digestLine(std::string_view text) {
   if (trim(text).empty()) return std::string(kNotAvailable);
-  if (charCount(text) > kDigestWidth) text.remove_prefix(text.find_first_not_of(' '));
+  if (charCount(text) > kDigestWidth && realNumber(text)) {
+    text = text.substr(0, text.find_last_not_of(' ') + 1);
+    const std::size_t over = text.size() - std::min(text.size(), kDigestWidth);
+    text.remove_prefix(std::min(over, text.find_first_not_of(' ')));
+  }
   return std::string(charsFrom(text, 0, kDigestWidth));
 }
 

@@ -16,8 +16,8 @@ inline constexpr std::size_t kDigestWidth = 10;  // characters of a line
 // The texts of a digest by line, from 0, not cut yet; empty where the output gives nothing.
 using DigestFields = std::array<std::string, kDigestLines>;
 
-// A line of a digest: the first ten characters of its text, "N/A" for a blank one. Of a longer text the blanks at its
-// front go first, so that no digit of a number is lost to them.
+// A line of a digest: the first ten characters of its text, "N/A" for a blank one. A longer number loses the blanks
+// around it first, as many as it must, so that no digit is lost to them.
 std::string digestLine(std::string_view text);
 
 // The whole digest.

@@ -176,7 +176,7 @@ class DamOutputReader {
     copy(line, {12, kWidth, 8});
     Extremes flows;
     forEachRow([&flows](const OutputLine& row) {
-      for (int column = 22; column <= 62; column += kWidth) flows.add(row.columns(column, kWidth));
+      for (int column = 22; column <= 62; column += kWidth) flows.addOrZero(row.columns(column, kWidth));
     });
     round(9, flows, 1);
   }
@@ -298,7 +298,7 @@ class DamOutputReader {
   void takeRows(std::initializer_list<Column> columns) {
     OutputLine row;
     while (nextTableRow(lines_, row)) {
-      for (const Column& column : columns) column.extremes->add(row.columns(column.first, column.width));
+      for (const Column& column : columns) column.extremes->addOrZero(row.columns(column.first, column.width));
     }
   }
 

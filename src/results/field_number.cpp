@@ -76,4 +76,20 @@ void Extremes::add(double value) {
   any_ = true;
 }
 
+void Extremes::addOrZero(std::string_view field) {
+  if (const auto number = fieldNumber(field)) {
+    add(*number);
+    unreadable_ = unreadable_ || !std::isfinite(*number);
+  } else if (field.find_first_not_of(' ') == std::string_view::npos) {
+    blanks_ = true;
+  } else {
+    unreadable_ = true;
+  }
+}
+
+std::optional<double> Extremes::highest() const {
+  if (any_) return blanks_ ? std::max(highest_, 0.0) : highest_;
+  return blanks_ && !unreadable_ ? std::optional(0.0) : std::nullopt;
+}
+
 }  // namespace kestra

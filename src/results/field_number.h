@@ -16,11 +16,15 @@ class Extremes {
     if (const auto number = fieldNumber(field)) add(*number);
   }
   void add(double value);
+  // The same for a column whose blank fields are zeros. They tell nothing of one in which all else is no number.
+  void addOrZero(std::string_view field);
 
-  std::optional<double> highest() const { return any_ ? std::optional(highest_) : std::nullopt; }
+  std::optional<double> highest() const;
   std::optional<double> lowest() const { return any_ ? std::optional(lowest_) : std::nullopt; }
 
  private:
+  bool blanks_ = false;
+  bool unreadable_ = false;
   bool any_ = false;
   double highest_ = 0;
   double lowest_ = 0;

@@ -13,6 +13,7 @@ inline constexpr std::size_t kSpillways = 3;
 // file has found of each auxiliary spillway. One object, owned by the application.
 struct RunTables {
   DigestFields digestFields;
+  std::string spillwayControlText;  // the records of the spillway that was built last
   std::array<std::string, kSpillways> spillwayName;
   std::array<bool, kSpillways> spillwayAnalysisFlag{};
   std::array<bool, kSpillways> spillwayRatingFlag{};  // given by a rating table, not by its surface

@@ -59,14 +59,15 @@ void skipHeading(LineReader& lines) {
 }
 
 // How long the spillway flows, h: from the first row with a discharge to the next without. 0 when there are no two such
-// rows; a row whose discharge is no number tells neither.
+// rows; no discharge is 0, and a row with one that is no number tells neither.
 double flowDuration(LineReader& lines, int number) {
   skipHeading(lines);
   std::optional<double> start;
   OutputLine row;
   while (nextTableRow(lines, row)) {
     if (row.length() < 61) continue;
-    const auto flow = fieldNumber(row.columns(routingSpillway(number), kRoutingWidth));
+    const std::string_view field = row.columns(routingSpillway(number), kRoutingWidth);
+    const auto flow = trim(field).empty() ? 0 : fieldNumber(field);
     if (!flow || (*flow != 0) == start.has_value()) continue;
     const double time = lenientNumber(row.columns(kRoutingTime, kRoutingWidth));
     if (start) return time - *start;

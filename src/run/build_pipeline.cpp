@@ -42,6 +42,7 @@ bool BuildPipeline::BuildMyFiles(bool showProgress) {
     whyNot_ = fault.what();
     if (!whyNot_.empty()) context_.programs.tell(whyNot_);
   }
+  if (showProgress && !built) context_.progress.rest();
   context_.silent = false;
   return built;
 }
@@ -64,7 +65,7 @@ void BuildPipeline::build() {
   showStep(context_, 1, name);
   RunDamSolver(context_, controlFile, !context_.silent);
   showStep(context_, 3, name);
-  (void)ParseDamOutput(files, names.base + ".KSC", context_.tables.digestFields);
+  condenseOutput(names.base);
   showStep(context_, 4, name);
   makeResultsDirectory(names);
   for (int number = 1; number <= static_cast<int>(kSpillways); ++number) {
@@ -103,6 +104,13 @@ BuildPipeline::Names BuildPipeline::namesOf(const std::string& controlFile) {
   return names;
 }
 
+// An output that is not there is known from the solver's end.
+void BuildPipeline::condenseOutput(const std::string& base) {
+  const Status written = ParseDamOutput(context_.ports.files, base + ".KSC", context_.tables.digestFields);
+  if (written || written.failedAs(FailureKind::notFound)) return;
+  context_.programs.tell(written.failure().path + ": " + written.failure().reason);
+}
+
 void BuildPipeline::makeResultsDirectory(const Names& names) {
   FileSystem& files = context_.ports.files;
   if (isDirectory(files, names.base)) return emptyDirectory(files, names.base);
@@ -112,7 +120,9 @@ void BuildPipeline::makeResultsDirectory(const Names& names) {
 void BuildPipeline::runSpillway(const Names& names, int number) {
   const auto split = findFile(context_.ports.files, splitFileOf(names.base, static_cast<std::size_t>(number)));
   if (!split) return;
-  writeInstances(names, readText(context_.ports.files, *split), number);
+  std::string& records = context_.tables.spillwayControlText;
+  records = readText(context_.ports.files, *split);
+  writeInstances(names, records, number);
   runInstances(names, number);
 }
 

@@ -31,6 +31,7 @@ class BuildPipeline : public FileRuns {
   void build();
   bool chooseFile();
   Names namesOf(const std::string& controlFile);
+  void condenseOutput(const std::string& base);
   void makeResultsDirectory(const Names& names);
   void runSpillway(const Names& names, int number);
   void writeInstances(const Names& names, const std::string& records, int number);

@@ -19,6 +19,13 @@ std::string_view restFrom(std::string_view line, std::size_t column) {
   return trim(charsFrom(line, column - 1));
 }
 
+// The whole part of a number; 0 for what is none of a spillway.
+int spillwayIn(std::string_view field) {
+  constexpr double kMost = 1000;
+  const double number = lenientNumber(field);
+  return number >= 1 && number < kMost ? static_cast<int>(number) : 0;
+}
+
 std::vector<std::string> valuesOf(std::string_view line) {
   std::vector<std::string> values;
   for (int i = 0; i < kMostValues; ++i) {
@@ -68,7 +75,7 @@ InstanceRecords readInstanceRecords(std::string_view text) {
   for (std::string_view line; lines.next(line);) {
     const std::string_view key = keyOf(line);
     if (key == "KESTRA" && charCount(line) > 20) {
-      records.spillwayNumber = static_cast<int>(wholeNumber(columns(line, 11, kWidth)).value_or(0));
+      records.spillwayNumber = spillwayIn(columns(line, 11, kWidth));
       records.damFile = restFrom(line, 21);
     }
     if (key == "MODIFIED" && charCount(line) > 10) records.recordedDate = restFrom(line, 11);

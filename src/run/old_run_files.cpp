@@ -13,14 +13,17 @@ namespace {
 
 using Entries = std::vector<DirectoryEntry>;
 
-bool hasControlFile(const Entries& entries, const std::string& base) {
-  return std::any_of(entries.begin(), entries.end(),
-                     [&](const DirectoryEntry& entry) { return equalIgnoringCase(entry.name, base + ".KSC"); });
+// Whether there is a control file of that very stem.
+bool hasControlFile(const Entries& entries, std::string_view stem) {
+  return std::any_of(entries.begin(), entries.end(), [&](const DirectoryEntry& entry) {
+    const std::string_view name = entry.name;
+    return name.starts_with(stem) && equalIgnoringCase(name.substr(stem.size()), ".KSC");
+  });
 }
 
-// A file of this run, or of a run that is no more.
+// A file of this run, which readers find whatever the letters of its name, or of a run that is no more.
 bool belongsTo(const std::string& run, const std::string& name, const Entries& entries) {
-  if (!name.starts_with(run + ".") || isInputOfRuns(name)) return false;
+  if (!equalIgnoringCase(name.substr(0, run.size() + 1), run + ".") || isInputOfRuns(name)) return false;
   const std::string base = withoutExtension(name);
   return base == run || !hasControlFile(entries, base);
 }

@@ -42,6 +42,7 @@ class SpillwayRun {
 
   void run() {
     records_ = readInstanceRecords(readText(files(), file_));
+    records_.damFile = absolutePath(records_.damFile, context_.state.projectDir);
     prepare();
     const bool several = records_.widths.size() > 1 || records_.crests.size() > 1;
     several ? runAlternatives() : runAlone();

@@ -24,6 +24,7 @@ void frmProgress::load() {
 }
 
 void frmProgress::begin(int steps) {
+  running_ = true;
   stopping_ = false;
   begunNs_ = context_.ports.clock.steadyNs();
   Gauge.setLimits(0, steps);
@@ -44,8 +45,19 @@ void frmProgress::refresh() {
   context_.ports.events.pump();
 }
 
+void frmProgress::finish() {
+  rest();
+  context_.host.unload(*this);
+}
+
+void frmProgress::rest() {
+  running_ = false;
+  stopping_ = false;
+  cmdStop.setEnabled(false);
+}
+
 bool frmProgress::queryUnload(CloseReason reason, bool bExiting) {
-  if (bExiting || reason == CloseReason::program) return true;
+  if (bExiting || !running_ || reason == CloseReason::program) return true;
   stop();
   return false;
 }

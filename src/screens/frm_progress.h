@@ -26,18 +26,20 @@ class frmProgress : public Screen {
   void begin(int steps);                            // comes to the front with an empty gauge
   void step(int value, const std::string& what);    // `value` steps are done, `what` runs now
   void refresh();                                   // the time, and the events that wait
-  void finish() { context_.host.unload(*this); }    // the command is over
-  bool stopRequested() const { return stopping_; }  // since it began
+  void finish();                                    // the command is over
+  void rest();                                      // it has ended before its last step: stays on show to be read
+  bool stopRequested() const { return stopping_; }  // since it began; not after its end
 
  protected:
   void load() override;
-  bool queryUnload(CloseReason reason, bool bExiting) override;  // closing by the frame asks to stop
+  bool queryUnload(CloseReason reason, bool bExiting) override;  // closing by the frame asks a command to stop
 
  private:
   void stop();
 
   ScreenContext& context_;
   std::int64_t begunNs_ = 0;
+  bool running_ = false;
   bool stopping_ = false;
 };
 

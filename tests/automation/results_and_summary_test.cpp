@@ -26,7 +26,8 @@ TEST_F(ResultsAndSummary, parsesTheOutputOfADam) {
   EXPECT_EQ(call("ParseDamOutput", "'/p/run.KSC'"), done);
   EXPECT_EQ(variable("digestFields(9)"), "{'ok':true,'value':'1003      '}");
   EXPECT_TRUE(desk.memory.content("/p/run.DIS"));
-  EXPECT_EQ(call("ParseDamOutput", "'/p/gone.KSC'"), "{'ok':false,'error':'/p/gone.OUT: No such file or directory'}");
+  EXPECT_EQ(call("ParseDamOutput", "'/p/gone.KSC'"), done);
+  EXPECT_FALSE(desk.memory.content("/p/gone.DIS"));
   EXPECT_EQ(variable("digestFields(9)"), "{'ok':true,'value':''}");
 }
 

@@ -26,6 +26,10 @@ TEST(DigestLine, isTheFieldCutToTenCharacters) {
                 {"     12.50", "     12.50"},
                 {"Larkmoor upper dam", "Larkmoor u"},
                 {"     1234567.25 ", "1234567.25"},
+                {"   1234.56 ", "   1234.56"},
+                {"       1012.345 ", "  1012.345"},
+                {" 123456789.25", "123456789."},
+                {"  Larkmoor upper dam", "  Larkmoor"},
                 {"Größenklasse 12", "Größenklas"}};
   for (const auto& each : kCases) EXPECT_EQ(digestLine(each.field), each.line) << each.field;
 }

@@ -169,6 +169,26 @@ TEST(DamOutput, givesThePeaksOfTheRouting) {
             (Given{{13, "5.3"}, {14, "0.02"}, {16, "1.25"}, {17, "0.0"}, {38, "  41.50 "}, {40, "1"}}));
 }
 
+TEST(DamOutput, takesBlankFieldsOfItsTablesForZeros) {
+  Lines lines = {echo({"HYD", "STORM"}), echo({"", "", ""}), kEnd, echo({"ASSURFACE", "2EAST"}), kEnd};
+  for (const Lines& table :
+       {routingTable({routingRow({"0.00", "1.0"})}),
+        Lines{std::string(19, ' ') + "Stress on Vegetated Embankment Slope", "1", "2", "3", "4", "           1", ""},
+        Lines{"Flow on Riprapped Embankment Slope", "1", "2", "3", "4", "           1", ""}}) {
+    lines.insert(lines.end(), table.begin(), table.end());
+  }
+  EXPECT_EQ(digestOf(lines), (Given{{8, "STORM     "},
+                                    {9, "0"},
+                                    {13, "0"},
+                                    {15, "0"},
+                                    {17, "0.0"},
+                                    {20, "0"},
+                                    {25, "0"},
+                                    {26, "0"},
+                                    {27, "0"},
+                                    {28, "0"}}));
+}
+
 TEST(DamOutput, givesTheHighestLoadsOfTheSlope) {
   check({
       {"vegetated or bare",

@@ -60,6 +60,26 @@ TEST(Extremes, ofNothingAreNothing) {
   EXPECT_FALSE(extremes.lowest());
 }
 
+TEST(Extremes, takeABlankFieldForZeroWhereAllElseCanBeRead) {
+  const struct {
+    const char* what;
+    std::vector<std::string> fields;
+    std::optional<double> highest;
+  } kCases[] = {{"no field", {}, std::nullopt},
+                {"blanks alone", {"", "    "}, 0.0},
+                {"blanks among numbers", {"5", "", "7"}, 7.0},
+                {"blanks among numbers below zero", {"-5", "", "-7"}, 0.0},
+                {"numbers below zero", {"-5", "-7"}, -5.0},
+                {"what cannot be read is no number", {"", "*****"}, std::nullopt},
+                {"nor is what is too great", {"", "1e999"}, std::nullopt},
+                {"numbers among what cannot be read", {"*****", "3", ""}, 3.0}};
+  for (const auto& [what, fields, highest] : kCases) {
+    Extremes extremes;
+    for (const std::string& field : fields) extremes.addOrZero(field);
+    EXPECT_EQ(extremes.highest(), highest) << what;
+  }
+}
+
 TEST(Extremes, holdAlsoBelowZero) {
   Extremes extremes;
   for (const char* field : {"-7", "*", "-5.5", "-9"}) extremes.add(field);

@@ -75,6 +75,9 @@ TEST(SpillwayOutput, givesTheDurationAsZeroWhereTheFlowHasNoEnd) {
       {"a row that is no number tells nothing",
        {flowRow("1.0", "4.0"), flowRow("2.0", "**********"), flowRow("5.0", "0.0")},
        "4"},
+      {"a blank discharge is none",
+       {flowRow("1.0", ""), flowRow("2.0", "4.0"), flowRow("5.0", ""), flowRow("6.0", "1.0")},
+       "3"},
       {"tiny spans are no powers", {flowRow("1.0", "4.0"), flowRow("1.00100", "0.0")}, "0.001"},
   };
   for (const auto& each : kCases) {

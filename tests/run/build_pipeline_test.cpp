@@ -261,6 +261,7 @@ TEST_F(BuildPipelineTest, endsAndSaysSoWhenTheDiskIsFull) {
   memory.put("/p/other.OUT", "other");
   files.failEvery("write", FailureKind::full);
   EXPECT_TRUE(build()) << "no split file could be written, and so there is no spillway to run";
+  EXPECT_THAT(told, ElementsAre("/p/dam.DIS: made to fail"));
   files.failNothing();
   int solved = 0;
   processes.effects["/app/TorveSim.exe"] = [&](const ProcessRequest&) -> ProcessOutcome {
@@ -295,7 +296,22 @@ TEST_F(BuildPipelineTest, endsAndLeavesTheProgressScreenWhenTheUserStopsAProgram
   EXPECT_THAT(summary.calls, ElementsAre("load")) << "the run is not entered";
   EXPECT_THAT(takeBoxes(), IsEmpty());
   events.onPump = {};
+  EXPECT_TRUE(build(false)) << "what runs behind it is not stopped";
   EXPECT_TRUE(build(true)) << "the next build begins anew";
+  EXPECT_FALSE(progress.visible());
+}
+
+TEST_F(BuildPipelineTest, leavesAProgressScreenThatCanBeClosedWhenItFails) {
+  open("/p/dam", kDam);
+  EXPECT_FALSE(build(true));
+  EXPECT_TRUE(progress.visible());
+  EXPECT_TRUE(host.closeByFrame(progress));
+  EXPECT_FALSE(progress.visible());
+}
+
+TEST_F(BuildPipelineTest, holdsTheRecordsOfTheSpillwayThatItBuiltLast) {
+  EXPECT_TRUE(build());
+  EXPECT_EQ(tables.spillwayControlText, spillwayRun("2"));
 }
 
 TEST_F(BuildPipelineTest, changesNothingInAProjectThatIsOpenForLookingOnly) {

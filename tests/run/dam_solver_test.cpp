@@ -141,6 +141,18 @@ TEST_F(DamSolverTest, acceptsAtOnceAPoolThatNeverRisesAboveTheLowestCrest) {
   }
 }
 
+TEST_F(DamSolverTest, acceptsAFirstAttemptWhosePeakIsSmallAgainstItsHead) {
+  const auto attempts = [&](const char* pool) {
+    processes.requests.clear();
+    const std::string output = damOutput({{"0", pool}}, {" PSpINLET                      -200"});
+    solveAttempts({{"5", output}, {"9", output}});
+    run(controlFile("", "1C"));
+    return processes.requests.size();
+  };
+  EXPECT_EQ(attempts("2"), 1U) << "2 of 202 ft";
+  EXPECT_EQ(attempts("2.1"), 2U) << "2.1 of 202.1 ft";
+}
+
 TEST_F(DamSolverTest, takesTheLowestOfTheCrestsOnlyWhereThereIsAPrincipalSpillway) {
   const std::string rating = " ASRATING  1East";
   const std::vector<std::string> both = {kCrests[0], rating, "           95        0", " ENDTABLE"};

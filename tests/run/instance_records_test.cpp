@@ -26,7 +26,10 @@ TEST(InstanceRecords, haveNoLinkInRecordsThatAreTooShort) {
   EXPECT_EQ(records.spillwayNumber, 0);
   EXPECT_EQ(records.damFile, "");
   EXPECT_EQ(records.recordedDate, "");
-  EXPECT_EQ(readInstanceRecords(lines({"KESTRA    x         /p/dam.KSC"})).spillwayNumber, 0);
+  const std::pair<const char*, int> kFields[] = {{"x", 0}, {"-1", 0}, {"0.9", 0}, {"1e99", 0}, {" 2.0", 2}, {"3 x", 3}};
+  for (const auto& [field, number] : kFields) {
+    EXPECT_EQ(readInstanceRecords(record({"KESTRA", field}) + "/p/dam.KSC").spillwayNumber, number) << field;
+  }
 }
 
 TEST(InstanceRecords, tellTheFlagsOfTheFirstRecord) {

@@ -21,12 +21,21 @@ std::vector<std::string> below(const MemoryFileSystem& files, const std::string&
 TEST(DeleteOldRunFiles, deletesWhatARunHasLeftAndKeepsItsInput) {
   RunDesk desk;
   for (const char* name : {"dam.KSC", "dam.ksc", "dam.V2C", "dam.AS1", "dam.as2", "dam.AS", "dam.KSM", "dam.OUT",
-                           "dam.dis", "dam.log", "dam.V2D", "dam.DG1", "dam", "dams.OUT", "dam2.OUT", "Dam.OUT"}) {
+                           "dam.dis", "dam.log", "dam.V2D", "dam.DG1", "dam", "dams.OUT", "dam2.OUT"}) {
     desk.memory.put(std::string("/p/") + name, "x");
   }
   DeleteOldRunFiles(desk.files, "/p", "dam");
-  EXPECT_THAT(below(desk.memory, "/p"), ElementsAre("Dam.OUT", "dam", "dam.AS", "dam.AS1", "dam.KSC", "dam.KSM",
-                                                    "dam.V2C", "dam.as2", "dam.ksc", "dam2.OUT", "dams.OUT"));
+  EXPECT_THAT(below(desk.memory, "/p"), ElementsAre("dam", "dam.AS", "dam.AS1", "dam.KSC", "dam.KSM", "dam.V2C",
+                                                    "dam.as2", "dam.ksc", "dam2.OUT", "dams.OUT"));
+}
+
+TEST(DeleteOldRunFiles, knowsItsFilesWhateverTheirLettersButLeavesThoseOfAnotherControlFile) {
+  RunDesk desk;
+  for (const char* name : {"dam.KSC", "DAM.OUT", "DAM.KSM", "Dam.BRE", "Dam.ksc"}) {
+    desk.memory.put(std::string("/p/") + name, "x");
+  }
+  DeleteOldRunFiles(desk.files, "/p", "dam");
+  EXPECT_THAT(below(desk.memory, "/p"), ElementsAre("DAM.KSM", "Dam.BRE", "Dam.ksc", "dam.KSC"));
 }
 
 TEST(DeleteOldRunFiles, judgesAnExtensionFromTheFirstDotAndFromTheLast) {

@@ -71,6 +71,12 @@ TEST_F(SpillwayCaseTest, refreshesTheHydrographWhenTheDamHasRunSince) {
   EXPECT_THAT(memory.paths(), testing::Not(testing::Contains(testing::EndsWith("V2D~"))));
 }
 
+TEST_F(SpillwayCaseTest, looksForADamFileWithoutADirectoryInTheProject) {
+  (void)memory.changeDirectory("/app");
+  run(instance({"KESTRA    1         dam.KSC"}));
+  EXPECT_EQ(text(kInstance), instance({}, kNewTable));
+}
+
 TEST_F(SpillwayCaseTest, leavesTheHydrographOfTheSameDateUnlessItIsNone) {
   const std::vector<std::string> link = {"KESTRA    1         /p/dam.KSC", "MODIFIED  01/01/1970 00:00:00"};
   const std::string table = lines({kHyd, "                    5", "ENDTABLE"});

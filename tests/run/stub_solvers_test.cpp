@@ -176,7 +176,7 @@ TEST_F(StubSolvers, thatLeaveNothingOrRubbishGiveTheDigestThatTheirLinesAllow) {
       {": >\"$stem.OUT\"\n", "0;0;"},
       {"echo something else >\"$stem.OUT\"\n", "0;0;"},
       {"printf 'Hydrograph Routing\\n\\n (hr)\\n' >\"$stem.OUT\"\n", "0;0;"},
-      {"printf 'Hydrograph Routing\\n (hr)\\n ---\\n         0         1         5' >\"$stem.OUT\"\n", "5;0;0;"},
+      {"printf 'Hydrograph Routing\\n (hr)\\n ---\\n         0         1         5' >\"$stem.OUT\"\n", "5;0.0;0;0;"},
       {"printf 'Hydrograph Routing\\n (hr)\\n ---\\n         0         1       NaN\\n' >\"$stem.OUT\"\n", ""},
       {"printf 'Hydrograph Routing\\n (hr)\\n ---\\n         0**********%s\\n' '**********' >\"$stem.OUT\"\n", ""},
   };

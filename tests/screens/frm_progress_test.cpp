@@ -73,5 +73,16 @@ TEST_F(Progress, isAskedToStopByItsButtonOrItsFrameAndStaysUntilTheCommandIsOver
   EXPECT_FALSE(screen.loaded());
 }
 
+TEST_F(Progress, canBeReadAndClosedWhenACommandHasEndedBeforeItsLastStep) {
+  screen.begin(2);
+  screen.cmdStop.click();
+  screen.rest();
+  EXPECT_TRUE(screen.visible());
+  EXPECT_FALSE(screen.stopRequested()) << "the next program is not meant";
+  EXPECT_FALSE(screen.cmdStop.enabled());
+  EXPECT_TRUE(desk.host.closeByFrame(screen));
+  EXPECT_FALSE(screen.loaded());
+}
+
 }  // namespace
 }  // namespace kestra
