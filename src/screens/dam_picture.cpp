@@ -27,11 +27,11 @@ constexpr std::array<Stroke, 8> kStrokes = {{{kEarth, 0, 10, 20, 10},
 }  // namespace
 
 void drawDamPicture(CanvasControl& canvas) {
-  canvas.clear();
-  canvas.setScale({0, 60, 120, 0});
+  canvas.Cls();
+  canvas.Scale(0, 60, 120, 0);
   for (const Stroke& stroke : kStrokes) {
-    canvas.record({"ForeColor", {static_cast<double>(stroke.color)}});
-    canvas.record({"Line", {stroke.x1, stroke.y1, stroke.x2, stroke.y2}});
+    canvas.ForeColor(stroke.color);
+    canvas.Line(stroke.x1, stroke.y1, stroke.x2, stroke.y2);
   }
 }
 
