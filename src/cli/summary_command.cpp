@@ -1,50 +1,52 @@
-#include "cli/summary_text.h"
-
-#include <algorithm>
+#include "cli/summary_command.h"
 
 #include "base/paths.h"
 #include "cli/terminal_session.h"
+#include "platform/files.h"
+#include "summary/table_formats.h"
 
 namespace kestra {
 namespace {
 
-bool hasInstanceValues(const EntryValues& values) {
-  return std::any_of(values.begin() + kInstanceOffset, values.end(), [](const std::string& v) { return !v.empty(); });
+Result<std::string> formed(const SummaryTable& table, const std::string& format) {
+  if (format == "csv") return csvText(gridOfAll(table));
+  if (format == "json") return jsonText(table);
+  if (format == "xlsx") return xlsxTable(table);
+  return textTable(gridOfAll(table));
 }
 
-void appendFields(std::string& text, const SummaryStore& store, const EntryValues& values, SummaryLevel level) {
-  const auto index = static_cast<std::size_t>(level);
-  const std::size_t offset = level == SummaryLevel::dam ? 0 : kInstanceOffset;
-  const std::vector<std::string>& titles = store.catalogues().fieldTitles[index];
-  for (const int field : store.selection().selectedFields[index]) {
-    const auto place = static_cast<std::size_t>(field - 1);
-    if (place < titles.size()) text += "  " + titles[place] + ": " + values[offset + place] + "\n";
-  }
+// Without a path on the standard output.
+Status write(FileSystem& files, const std::string& path, const std::string& bytes) {
+  if (!path.empty()) return writeWholeFile(files, path, bytes);
+  std::cout << bytes;
+  return Done();
+}
+
+Status writeSummary(Application& application, const CliOptions& options, const std::string& output) {
+  frmSummaryTable& screen = application.summaryScreens.table;
+  const ShownRows rows = options.all ? screen.everyEntry() : screen.condensedEntries();
+  const SummaryTable table = makeSummaryTable(rows, application.summary.selection(), application.summary.catalogues());
+  const Result<std::string> bytes = formed(table, options.format);
+  return bytes ? write(application.ports.files, output, bytes.value()) : Status(bytes.failure());
 }
 
 }  // namespace
 
-std::string summaryText(const SummaryStore& store) {
-  std::string text;
-  for (const SummaryEntry& entry : store.entries()) {
-    text += entry.name + "\n";
-    appendFields(text, store, entry.values, SummaryLevel::dam);
-    // A dam has fields at those places too.
-    const bool isInstance = entry.name.find_first_of(std::string("_") + kSeparator) != std::string::npos;
-    if (isInstance && hasInstanceValues(entry.values)) appendFields(text, store, entry.values, SummaryLevel::instance);
-  }
-  return text;
-}
-
 int printSummary(const CliOptions& options) {
   TerminalSession session(options);
   Shell& shell = session.application.shell;
-  const std::string project = absolutePath(options.project, session.desk.files().currentDirectory());
+  const std::string here = session.desk.files().currentDirectory();
+  const std::string output = options.output == "-" || options.output.empty() ? "" : absolutePath(options.output, here);
   shell.startUp("");
-  const bool opened = shell.projects.open(project) == Opening::opened;
-  if (opened) std::cout << summaryText(session.application.summary);
+  // The project becomes the current directory.
+  bool done = shell.projects.open(absolutePath(options.project, here)) == Opening::opened;
+  if (done) {
+    const Status status = writeSummary(session.application, options, output);
+    done = static_cast<bool>(status);
+    if (!done) std::cerr << "kestra: " << status.failure().path << ": " << status.failure().reason << '\n';
+  }
   shell.end();
-  return opened ? 0 : kFailed;
+  return done ? 0 : kFailed;
 }
 
 }  // namespace kestra
