@@ -1,5 +1,5 @@
-// Any bytes as the control file of a dam: the engine comes to an end, tells what it did, and writes no figure that is no
-// number and no line that is wider than its columns.
+// Any bytes as the control file of a dam: the engine comes to an end, tells what it did, and writes no figure that is
+// no number and no line that is wider than its columns.
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -27,7 +27,7 @@ bool holdsWord(std::string_view text, std::string_view word) {
 
 void requireFigures(std::string_view text, std::string_view given) {
   for (const char* word : {"nan", "inf"}) {
-    fuzzRequire(!holdsWord(text, word) || holdsWord(given, word), "every figure is a number");
+    fuzzRequire(!holdsWord(text, word) || given.find(word) != std::string_view::npos, "every figure is a number");
   }
 }
 
@@ -68,7 +68,8 @@ std::vector<std::string> fuzzSeeds() {
           "PSpHOOD   130                           101       0.6       0.8       S\nPSpCOEFFS\n"
           "ASSURFACE 2Earth    3         60       110        900\n          0         400       5.6\nENDTABLE\nENDRUN\n"
           "QUIL      02/09/20022         Earth\nASSPRFL   41\n"
-          "          0         118       50        122       100       122\n          300       110\nENDTABLE\nENDRUN\n",
+          "          0         118       50        122       100       122\n          300       "
+          "110\nENDTABLE\nENDRUN\n",
       "OPTION    COEFF     EARTH     \nHCMODEL   2         120       4         600       0\n" + flood + tail +
           "DWNSTREAM 2.5       5.6       0.75      2         0         0.01\nENDRUN\n",
       "",

@@ -28,7 +28,7 @@ ErosionStep computable(ErosionStep step) {
   step.pool = clippedOr(step.pool, kDry, 1e6, kDry);
   step.tailwater = clippedOr(step.tailwater, kDry, 1e6, kDry);
   step.head = clippedOr(step.head, 0, 1e6, 0);
-  step.unitDischarge = clippedOr(step.unitDischarge, 0, 1e6, 0);
+  step.unitDischarge = step.head > 0 ? clippedOr(step.unitDischarge, 0, 1e6, 0) : 0;
   return step;
 }
 

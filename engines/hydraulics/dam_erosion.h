@@ -10,8 +10,8 @@
 namespace kestra {
 
 // What the water did during a step: means over it, from `timeHours` on for `dtHours`. Elevations of pool and tailwater
-// in ft, head over the lowest point of the crest in ft (0 when the pool is below), and there the unit discharge over
-// the crest, cfs/ft.
+// in ft, head over the lowest point of the crest in ft (0 when the pool is below: then nothing runs over it), and there
+// the unit discharge over the crest, cfs/ft.
 struct ErosionStep {
   double timeHours = 0;
   double dtHours = 0;

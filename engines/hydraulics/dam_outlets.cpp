@@ -33,6 +33,13 @@ double feelsTailwaterFrom(const PrincipalSpillway& spillway) {
 
 }  // namespace
 
+void OutletFlows::scale(double factor) {
+  principal *= factor;
+  for (double& discharge : auxiliary) discharge *= factor;
+  crest *= factor;
+  breach *= factor;
+}
+
 double principalDischarge(const PrincipalSpillway& spillway, double pool, double tailwater) {
   return std::visit(
       Overloaded{

@@ -42,6 +42,7 @@ struct OutletFlows {
   double tailwater = 0;  // elevation, ft
 
   double overDam() const { return crest + breach; }
+  void scale(double factor);
   double total() const { return principal + auxiliary[0] + auxiliary[1] + auxiliary[2] + crest + breach; }
 };
 

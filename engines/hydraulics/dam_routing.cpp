@@ -17,8 +17,8 @@ constexpr double kRising = 1e-4;       // ft from row to row
 constexpr double kOvertopped = 1e-6;   // ft
 constexpr std::size_t kMostErosionRows = 15000;
 constexpr double kErosionRowShare = 1.0 / 16;  // of the rows' spacing, between rows of a growing breach
-constexpr long kStepsToBegin = 30000;
-constexpr long kStepsAPoint = 30;
+constexpr long kStepsToBegin = 10000;
+constexpr long kStepsAPoint = 20;
 
 bool sameTime(double a, double b, double spacing) {
   return std::fabs(a - b) < 1e-6 * spacing;
@@ -64,10 +64,10 @@ class Routing {
       const auto next = std::ranges::upper_bound(points, state_.hours);
       double limit = hours;
       if (next != points.end() && *next < hours && !sameTime(*next, hours, input_.rowHours)) limit = *next;
-      PoolState to = march_.step(state_, limit);
+      const PoolState to = march_.step(state_, limit);
       noteErosion(to);
       noteTarget(to);
-      state_ = std::move(to);
+      state_ = to;
       notePeaks();
       noteTables();
     }
@@ -83,11 +83,12 @@ class Routing {
 
   void noteTables() {
     if (!result_.leftStorageTable && state_.pool > input_.storage.highest()) result_.leftStorageTable = state_.hours;
-    if (!result_.ranDry && state_.pool <= input_.storage.lowest() && state_.flows.total() > 0) {
+    if (!result_.ranDry && state_.pool <= input_.storage.lowest() &&
+        input_.outlets.flows(state_.pool, state_.erosion).total() > 0) {
       result_.ranDry = state_.hours;
     }
     const LinearTable& tailwater = input_.outlets.tailwater;
-    if (!result_.leftTailwaterTable && !tailwater.empty() && state_.flows.total() > tailwater.x().back()) {
+    if (!result_.leftTailwaterTable && tailwater.size() > 1 && state_.flows.total() > tailwater.x().back()) {
       result_.leftTailwaterTable = state_.hours;
     }
   }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "hydraulics/pool_step.h"
+#include "hydraulics/roots.h"
 #include "hydraulics/units.h"
 
 namespace kestra {
@@ -28,9 +28,9 @@ PoolMarch::PoolMarch(const RoutingInput& input)
 
 PoolState PoolMarch::start() const {
   const double hours = input_.inflow.x().front();
-  DamErosion erosion(input_.erosion);
+  const DamErosion erosion(input_.erosion);
   const OutletFlows flows = input_.outlets.flows(input_.startPool, erosion);
-  return {hours, input_.startPool, flows, std::move(erosion)};
+  return {hours, input_.startPool, flows, erosion};
 }
 
 double PoolMarch::poolAt(const PoolState& from, double hours, const DamErosion& atEnd) const {
@@ -60,8 +60,11 @@ DamErosion PoolMarch::eroded(const PoolState& from, double hours, double pool, c
   return erosion;
 }
 
-PoolState PoolMarch::stateAt(const PoolState& from, double hours, double pool, DamErosion erosion) const {
-  PoolState to{from.hours + hours, pool, input_.outlets.flows(pool, erosion), std::move(erosion)};
+PoolState PoolMarch::stateAt(const PoolState& from, double hours, double pool, const DamErosion& erosion) const {
+  PoolState to{from.hours + hours, pool, input_.outlets.flows(pool, erosion), erosion};
+  // At the floor no more runs out than comes in.
+  const double outflow = to.flows.total();
+  if (pool <= input_.storage.lowest() && outflow > inflow(to.hours)) to.flows.scale(inflow(to.hours) / outflow);
   const double half = 0.5 * hours * kSecondsPerHour;
   to.in = from.in + half * (inflow(from.hours) + inflow(to.hours));
   to.out = from.out + half * (from.flows.total() + to.flows.total());
@@ -75,9 +78,9 @@ PoolState PoolMarch::stateAt(const PoolState& from, double hours, double pool, D
 PoolState PoolMarch::leap(const PoolState& from, double hours) const {
   const PoolState to = stateAt(from, hours, poolAt(from, hours, from.erosion), from.erosion);
   if (!overDam(from, to)) return to;
-  DamErosion erosion = eroded(from, hours, to.pool, to.flows);
+  const DamErosion erosion = eroded(from, hours, to.pool, to.flows);
   const double pool = erosion.breachWidth() > 0 ? poolAt(from, hours, erosion) : to.pool;
-  return stateAt(from, hours, pool, std::move(erosion));
+  return stateAt(from, hours, pool, erosion);
 }
 
 PoolState PoolMarch::twoHalves(const PoolState& from, double hours) const {
@@ -112,15 +115,14 @@ PoolState PoolMarch::cutAtCrest(const PoolState& from, PoolState to) const {
   const auto first = std::ranges::lower_bound(crests_, low);
   if (first == crests_.end() || *first >= high) return to;
   const double crest = rises ? *first : *(std::ranges::lower_bound(crests_, high) - 1);
-  double shorter = 0;
-  double longer = to.hours - from.hours;
-  constexpr int kMost = 40;
-  for (int i = 0; i < kMost; ++i) {
-    const double hours = 0.5 * (shorter + longer);
-    to = twoHalves(from, hours);
-    if (std::fabs(to.pool - crest) <= kSameElevation) break;
-    ((to.pool < crest) == rises ? shorter : longer) = hours;
-  }
+  const auto beyond = [&](double hours) {
+    if (hours > 0) to = twoHalves(from, hours);
+    const double above = (hours > 0 ? to.pool : from.pool) - crest;
+    if (std::fabs(above) <= kSameElevation) return 0.0;
+    return rises ? above : -above;
+  };
+  const double longest = to.hours - from.hours;
+  solveIncreasing(beyond, 0.0, longest, 1e-12 * longest);
   return to;
 }
 
@@ -131,7 +133,7 @@ PoolState PoolMarch::step(const PoolState& from, double limit) {
   if (most - hours < kSliver * hours) hours = most;
   std::optional<PoolState> to = accurate(from, hours);
   while (!to) to = accurate(from, hours = nextHours_);
-  PoolState end = cutAtCrest(from, std::move(*to));
+  PoolState end = cutAtCrest(from, *to);
   if (limit - end.hours < kSliver * hours) end.hours = limit;
   return end;
 }

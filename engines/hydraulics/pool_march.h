@@ -38,7 +38,7 @@ class PoolMarch {
   DamErosion eroded(const PoolState& from, double hours, double pool, const OutletFlows& flows) const;
   PoolState leap(const PoolState& from, double hours) const;
   PoolState twoHalves(const PoolState& from, double hours) const;
-  PoolState stateAt(const PoolState& from, double hours, double pool, DamErosion erosion) const;
+  PoolState stateAt(const PoolState& from, double hours, double pool, const DamErosion& erosion) const;
   double poolAt(const PoolState& from, double hours, const DamErosion& atEnd) const;
   // The step's end by two halves, where it agrees with the step in one; nothing where it does not.
   std::optional<PoolState> accurate(const PoolState& from, double hours);

@@ -9,7 +9,7 @@
 // Hydrology, section 8.2.
 namespace kestra {
 
-inline constexpr double kPoolTolerance = 1e-10;  // ft, to which the elevation is found
+inline constexpr double kPoolTolerance = 1e-9;  // ft, to which the elevation is found
 
 // The pool at the end of a step, from 2 S(z)/dt + O(z) = wanted. O does not fall with z, so there is one answer; where
 // even the empty reservoir holds too much, it is its lowest elevation. `start` is where the search begins.
@@ -38,6 +38,7 @@ double solvePool(const StageStorage& storage, const Outflow& outflow, double wan
     double z = i % 6 == 0 ? 0.5 * (a + b) : b - atB * (b - a) / (atB - atA);
     if (!(std::min(a, b) < z && z < std::max(a, b))) z = 0.5 * (a + b);
     if (z == a || z == b) break;
+    const double moved = std::fabs(z - b);
     const double atZ = excess(z);
     if ((atZ < 0) == (atB < 0)) {
       atA *= atB / (atB + atZ);  // keeps the far end from standing still
@@ -47,6 +48,7 @@ double solvePool(const StageStorage& storage, const Outflow& outflow, double wan
     }
     b = z;
     atB = atZ;
+    if (moved <= kPoolTolerance) return b;  // the steps shrink faster and faster: the root is nearer still
   }
   return atA == 0 ? a : b;
 }

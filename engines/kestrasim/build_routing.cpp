@@ -28,6 +28,8 @@ std::optional<LinearTable> buildInflow(const HydrographRecord& hydrograph, RunMe
   std::vector<double> hours;
   std::vector<double> flows;
   double most = 0;
+  hours.reserve(hydrograph.points.size());
+  flows.reserve(hydrograph.points.size());
   for (const TablePoint& point : hydrograph.points) {
     hours.push_back(point.first);
     flows.push_back(point.second);
@@ -122,6 +124,13 @@ std::optional<DamRun> buildRun(const DamModel& dam, RunMessages& messages) {
   for (const TablePoint& point : dam.crestProfile) low = std::min(low, point.second);
   std::optional<CrestOverflow> crest = buildCrest(dam, top - low + kTopMargin, messages);
   if (!inflow || !crest) return std::nullopt;
+  if (low <= reservoir->storage.lowest()) {
+    messages.error({"CRESTPRFL", dam.crestLine},
+                   fmt::format("the crest at {} is not above the floor of the reservoir at {}", shown(low),
+                               shown(reservoir->storage.lowest())),
+                   "nothing is routed");
+    return std::nullopt;
+  }
 
   DamRun run;
   run.highestCrest = std::ranges::max(dam.crestProfile, {}, &TablePoint::second).second;

@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "kestrasim/dam_report.h"
 #include "kestrasim/given_or.h"
 #include "kestrasim/history_files.h"
@@ -37,9 +40,36 @@ void tellRouting(const RoutingResult& result, RunMessages& messages) {
   }
 }
 
+void tellRatings(const DamModel& dam, const DamRun& run, const RoutingResult& result, RunMessages& messages) {
+  for (std::size_t i = 0; i < kAuxiliarySpillways; ++i) {
+    const RatingCurve& rating = run.routing.outlets.auxiliary[i];
+    if (rating.empty() || result.pool.value <= rating.highest()) continue;
+    const AuxiliaryRecord& spillway = *dam.auxiliary[i];
+    messages.warning({spillway.byProfile ? "ASSURFACE" : "ASRATING", spillway.line},
+                     fmt::format("the pool rose above the rating of auxiliary spillway {}", i + 1),
+                     "its last two rows are carried on");
+  }
+}
+
+// What a proof by half steps bears: the limits within which a routing counts as converged.
+HalvedSteps routeByHalves(const RoutingInput& routing, const RoutingResult& result, RunMessages& messages) {
+  constexpr double kPool = 0.01;    // ft
+  constexpr double kOutflow = 0.5;  // percent
+  RoutingInput halves = routing;
+  halves.stepShare = 0.5;
+  const RoutingResult again = routeDam(halves);
+  const HalvedSteps halved{again.pool.value - result.pool.value,
+                           100 * (again.outflow.value - result.outflow.value) / std::max(result.outflow.value, 1e-6)};
+  if (std::fabs(halved.poolChange) > kPool || std::fabs(halved.outflowPercent) > kOutflow) {
+    messages.warning({}, "half the steps change the peaks by more than 0.01 ft or 0.5 percent",
+                     "a shorter time increment will help");
+  }
+  return halved;
+}
+
 }  // namespace
 
-DamFiles runDam(std::string_view controlText) {
+DamFiles runDam(std::string_view controlText, StepCheck check) {
   RunMessages messages;
   const std::vector<ControlRun> runs = readControlRecords(controlText);
   const DamModel dam = readDam(runs, messages);
@@ -51,7 +81,10 @@ DamFiles runDam(std::string_view controlText) {
   }
   const RoutingResult result = routeDam(run->routing);
   tellRouting(result, messages);
-  files.report = damReport({runs, dam, messages, &*run, &result});
+  tellRatings(dam, *run, result, messages);
+  std::optional<HalvedSteps> halved;
+  if (check == StepCheck::halved) halved = routeByHalves(run->routing, result, messages);
+  files.report = damReport({runs, dam, messages, &*run, &result, halved});
   if (!run->routing.erosion.breach) return files;
   files.headcut = headcutHistory(result);
   if (result.overtoppingBegins) files.breach = breachHistory(result, run->routing.outlets.crest.lowest());

@@ -13,7 +13,10 @@ struct DamFiles {
   std::optional<std::string> headcut;
 };
 
+// Whether the flood is routed a second time, by half steps, and the report tells what that changed.
+enum class StepCheck { none, halved };
+
 // The dam of a control file, routed. Any text gives a report; the same text gives the same one.
-DamFiles runDam(std::string_view controlText);
+DamFiles runDam(std::string_view controlText, StepCheck check = StepCheck::none);
 
 }  // namespace kestra

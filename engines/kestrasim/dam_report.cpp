@@ -120,7 +120,15 @@ void writeBalance(const RoutingResult& result, ReportText& out) {
   out.blankLine();
 }
 
-void writeResults(const DamRun& run, const RoutingResult& result, ReportText& out) {
+void writeHalved(const HalvedSteps& halved, ReportText& out) {
+  out.line(told("Half the steps change the highest pool by", halved.poolChange, 54, 5).words(" feet"));
+  out.line(told("Half the steps change the peak outflow by", halved.outflowPercent, 54, 4).words(" percent"));
+  out.blankLine();
+}
+
+void writeResults(const DamResults& results, ReportText& out) {
+  const DamRun& run = *results.run;
+  const RoutingResult& result = *results.result;
   writeRating(run, out);
   writeStorage(run, out);
   const double crest = run.routing.outlets.crest.lowest();
@@ -134,6 +142,7 @@ void writeResults(const DamRun& run, const RoutingResult& result, ReportText& ou
   writePeaks(result, out);
   writeEvents(result, crest, out);
   writeBalance(result, out);
+  if (results.halved) writeHalved(*results.halved, out);
   if (result.drawdown) writeDrawdown(result, out);
 }
 
@@ -145,7 +154,7 @@ std::string damReport(const DamResults& results) {
   writeEcho(results, out);
   for (const std::string& message : results.messages.lines()) out.line(std::string_view(message));
   out.blankLine();
-  if (results.result != nullptr) writeResults(*results.run, *results.result, out);
+  if (results.result != nullptr) writeResults(results, out);
   if (out.overflowed()) {
     out.line("***** WARNING - figures that are too long for their columns: nines stand in their places");
   }

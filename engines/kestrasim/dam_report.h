@@ -11,6 +11,12 @@
 
 namespace kestra {
 
+// What routing by half steps changed.
+struct HalvedSteps {
+  double poolChange = 0;      // ft, of the highest pool
+  double outflowPercent = 0;  // of the peak outflow
+};
+
 // What a run leaves to be told: input, messages, and, where there was enough to compute with, the results.
 struct DamResults {
   const std::vector<ControlRun>& runs;
@@ -18,6 +24,7 @@ struct DamResults {
   const RunMessages& messages;
   const DamRun* run = nullptr;
   const RoutingResult* result = nullptr;
+  std::optional<HalvedSteps> halved = {};
 };
 
 // The text of the .OUT file: title and limits, echo of the main run behind one blank, messages, ratings, storage,

@@ -16,10 +16,11 @@ constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
 constexpr std::string_view kUsage =
-    "usage: KestraSim.exe FILE\n"
-    "Routes the flood of a control file through its reservoir and over its dam. Writes FILE's stem with .OUT, and "
-    "with\n"
-    ".BRE and .HCT when a breach is asked for.\n";
+    "usage: KestraSim.exe [--check-steps] FILE\n"
+    "Routes the flood of a control file through its reservoir and over its dam. Writes the stem of FILE with .OUT, "
+    "and\n"
+    "with .BRE and .HCT when a breach is asked for.\n"
+    "  --check-steps  routes once more by half steps and tells what that changes\n";
 
 // The path without its extension; a name that is nothing but an extension is kept whole.
 std::string stemOf(const std::string& path) {
@@ -44,11 +45,12 @@ bool write(FileSystem& files, const std::string& path, const std::optional<std::
 
 int runProgram(const std::vector<std::string>& arguments, FileSystem& files, std::ostream& output,
                std::ostream& errors) {
-  if (arguments.size() != 1) {
+  const bool check = arguments.size() == 2 && arguments.front() == "--check-steps";
+  if (arguments.size() != 1 && !check) {
     errors << kUsage;
     return kWrongUsage;
   }
-  const std::string& path = arguments.front();
+  const std::string& path = arguments.back();
   if (path == "--help") {
     output << kUsage;
     return kDone;
@@ -62,7 +64,7 @@ int runProgram(const std::vector<std::string>& arguments, FileSystem& files, std
     tell(text.failure(), errors);
     return kFailed;
   }
-  const DamFiles results = runDam(text.value());
+  const DamFiles results = runDam(text.value(), check ? StepCheck::halved : StepCheck::none);
   const std::string stem = stemOf(path);
   bool written = write(files, stem + ".OUT", results.report, errors);
   written = write(files, stem + ".BRE", results.breach, errors) && written;

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <map>
+#include <set>
 
 #include "base/text.h"
 #include "kestrasim/number_fields.h"
@@ -212,6 +213,18 @@ const std::map<std::string_view, ReadRecord>& recordReaders() {
   return kReaders;
 }
 
+// Records of which each stands for itself.
+bool mayRepeat(std::string_view keyword) {
+  return keyword == "*" || keyword == "ASSURFACE" || keyword == "ASRATING" || keyword == kTableEnd;
+}
+
+void tellRepeated(const ControlRecord& record, std::set<std::string_view>& seen, RunMessages& messages) {
+  const std::string_view keyword = record.layout->keyword;
+  if (mayRepeat(keyword) || seen.insert(keyword).second) return;
+  messages.warning({std::string(keyword), record.lineNumber}, "the record stands more than once",
+                   "the last one counts");
+}
+
 }  // namespace
 
 DamModel readDam(const std::vector<ControlRun>& runs, RunMessages& messages) {
@@ -219,7 +232,9 @@ DamModel readDam(const std::vector<ControlRun>& runs, RunMessages& messages) {
   if (runs.empty()) return dam;
   const ControlRun& main = runs.front();
   const ControlRecord* downstream = nullptr;
+  std::set<std::string_view> seen;
   for (const ControlRecord& record : main.records) {
+    tellRepeated(record, seen, messages);
     if (record.layout->keyword == "DWNSTREAM") downstream = &record;
     const auto reader = recordReaders().find(record.layout->keyword);
     if (reader != recordReaders().end()) reader->second(record, dam, messages);

@@ -1,6 +1,6 @@
 #include "app/run_summary.h"
 
-#include "base/runtime_fault.h"
+#include "run/file_steps.h"
 
 namespace kestra {
 
@@ -9,8 +9,7 @@ int RunSummary::LoadDigestEntry(int fieldOffset, const std::string& digestPath, 
 }
 
 void RunSummary::SaveSummaryStore(const std::string& path) {
-  const Status saved = store_.SaveSummaryStore(path);
-  if (!saved) throw RuntimeFault(saved.failure().path + ": " + saved.failure().reason);
+  require(store_.SaveSummaryStore(path));
 }
 
 void RunSummary::ModifyTable(int entryIndex) {

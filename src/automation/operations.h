@@ -46,7 +46,7 @@ std::vector<Operation> outputOperations();    // of frmOutput
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
 std::vector<Operation> auxOperations();
 std::vector<Operation> structureOperations();  // of the tables of the dam, its reservoir and its tailwater
-std::vector<Operation> controlOperations();  // on the control file
+std::vector<Operation> controlOperations();    // on the control file
 std::vector<Operation> summaryOperations();
 
 // RequestError, with the path and the reason, for what the world has refused.

@@ -99,6 +99,8 @@ const std::map<std::string, Reader>& readers() {
         {"yField", [](const Application& a) -> Json { return a.summaryScreens.graphics.yField(); }},
         {"isLineGraph", [](const Application& a) -> Json { return a.summaryScreens.graphics.isLineGraph(); }},
         {"graphShown", [](const Application& a) -> Json { return a.summaryScreens.graphics.graphShown(); }},
+        {"hydrographSelected",
+         [](const Application& a) -> Json { return a.shell.input.hydrographData.hydrographSelected; }},
         {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
         {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
         {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},

@@ -17,7 +17,10 @@ constexpr PictureSize kUsualSize = {1200, 800};
 class Output {
  public:
   Output(Application& application, const CliOptions& options, std::ostream& out, std::ostream& err)
-      : files_(application.ports.files), path_(options.output), several_(options.graphs.size() > 1), out_(out),
+      : files_(application.ports.files),
+        path_(options.output),
+        several_(options.graphs.size() > 1),
+        out_(out),
         err_(err) {}
 
   // Writes what belongs to one graph, or, without a number, to all of them.

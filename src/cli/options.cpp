@@ -142,6 +142,7 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
       return std::nullopt;
     }
     options.command = command;
+    if (command == CliCommand::summary && options.format.empty()) options.format = "text";
     return options;
   }
   err << generalHelp();

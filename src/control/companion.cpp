@@ -7,6 +7,7 @@
 
 #include "base/text.h"
 #include "control/companion_spillways.h"
+#include "control/companion_tables.h"
 #include "control/main_run_writer.h"
 #include "control/read_back.h"
 #include "control/record_writer.h"
@@ -38,29 +39,30 @@ std::string digestOf(std::string_view bytes) {
   return fmt::format("fnv1a64:{:016x}:{}", hash, bytes.size());
 }
 
-// The field of a record's rows that a column of a table, or a row of one, is written to; null where there is none.
-const FieldLayout* cellField(std::string_view table, int row, int column) {
-  for (const RecordLayout& record : recordsOf(RunKind::main)) {
-    if (!record.table) continue;
-    for (const FieldLayout& field : record.table->fields) {
-      if (!field.control.starts_with(table)) continue;
-      const std::string_view place = field.control.substr(table.size());
-      if (place == fmt::format(" column {}", column) || place == fmt::format(" row {}", row)) return &field;
-    }
+// What the screens write, and the controls whose texts that are.
+struct Written {
+  std::string text;
+  std::set<std::string> controls;
+};
+
+Written writeOut(InputScreenSet& screens, const ApplicationState& state) {
+  ScreenFields fields(screens.context);
+  Written written;
+  written.text = composeMainRun(screens.context, fields, composeHydrograph(screens.context, fields, nullptr), nullptr);
+  for (int i = 0; i < state.numAuxSpillways; ++i) {
+    if (screens.auxSpillways.analysed(i)) written.text += composeSpillwayRun(screens.context, fields, i, {}, nullptr);
   }
-  return nullptr;
+  written.controls = std::move(fields.used);
+  return written;
 }
 
-// The name of a control as the catalogue has it, an index of a spillway being "(i)".
-std::string catalogueName(const std::string& name) {
-  const std::size_t open = name.find('(');
-  return open == std::string::npos ? name : name.substr(0, open) + "(i)";
-}
+// Whether an end that is cut off a number counts as lost. It does where the file would not be written again as it is.
+enum class CutNumbers { stayCut, areKept };
 
 class Comparison {
  public:
-  Comparison(const std::set<std::string>& written, const std::set<std::string>& read)
-      : written_(written), read_(read) {}
+  Comparison(const std::set<std::string>& written, const std::set<std::string>& read, CutNumbers cut)
+      : written_(written), read_(read), cut_(cut) {}
 
   Json take() { return std::move(kept_); }
 
@@ -103,9 +105,9 @@ class Comparison {
 
   void compareTexts(const std::string& name, const std::string& entered, const std::string& read) {
     if (entered == read) return;
-    const bool lost = name == kComments                                 ? wrapComment(entered) != wrapComment(read)
-                      : std::ranges::find(kWords, name) != kWords.end() ? true
-                                                                        : !holds(name) || trim(entered) == read;
+    const bool isWord = std::ranges::find(kWords, name) != kWords.end();
+    const bool lost = name == kComments ? wrapComment(entered) != wrapComment(read)
+                                        : isWord || !holds(name) || cut_ == CutNumbers::areKept;
     if (lost) kept_[kControls][name] = textJson(entered);
   }
 
@@ -119,62 +121,23 @@ class Comparison {
     }
   }
 
-  // Kept whole where any cell is lost, since the rows of a file close up.
   void compareTables(const std::string& name, const Table& entered, const Table& read) {
-    bool lost = false;
-    const std::string catalogued = catalogueName(name);
-    for (int row = entered.fixedRows(); row < entered.rows(); ++row) {
-      for (int column = entered.fixedColumns(); column < entered.columns(); ++column) {
-        const std::string& cell = entered.cell(row, column);
-        if (cell != read.cell(row, column))
-          lost = lost || !isCut(catalogued, row, column, cell, read.cell(row, column));
-      }
-    }
-    if (lost) kept_[kTables][name] = keptTable(catalogued, entered, read);
-  }
-
-  static bool isCut(const std::string& table, int row, int column, const std::string& entered,
-                    const std::string& read) {
-    const FieldLayout* field = cellField(table, row, column);
-    const std::size_t lost = field == nullptr ? 0 : lostText(*field, entered).size();
-    return !read.empty() && trim(std::string_view(entered).substr(0, entered.size() - lost)) == read;
-  }
-
-  static Json keptTable(const std::string& catalogued, const Table& entered, const Table& read) {
-    Json json = tableJson(entered);
-    for (std::size_t i = 0; i < json.size(); ++i) {
-      for (std::size_t j = 0; j < json[i].size(); ++j) {
-        const int row = static_cast<int>(i) + entered.fixedRows();
-        const int column = static_cast<int>(j) + entered.fixedColumns();
-        if (isCut(catalogued, row, column, entered.cell(row, column), read.cell(row, column))) {
-          json[i][j] = textJson(read.cell(row, column));
-        }
-      }
-    }
-    return json;
+    Json table = keptTable(name, entered, read, cut_ == CutNumbers::areKept);
+    if (!table.is_null()) kept_[kTables][name] = std::move(table);
   }
 
   const std::set<std::string>& written_;
   const std::set<std::string>& read_;
+  CutNumbers cut_;
   Json kept_ = Json::object();
 };
 
-// The controls whose texts go into the file.
-std::set<std::string> writtenControls(InputScreenSet& screens, const ApplicationState& state) {
-  ScreenFields fields(screens.context);
-  composeMainRun(screens.context, fields, composeHydrograph(screens.context, fields, nullptr), nullptr);
-  for (int i = 0; i < state.numAuxSpillways; ++i) {
-    if (screens.auxSpillways.analysed(i)) composeSpillwayRun(screens.context, fields, i, {}, nullptr);
-  }
-  return std::move(fields.used);
-}
-
-void keepSpillways(Json& kept, const AuxStore& entered, const AuxStore& read) {
+void keepSpillways(Json& kept, const AuxStore& entered, const AuxStore& read, CutNumbers cut) {
   Json list = Json::array();
   bool any = false;
   for (std::size_t i = 0; i < kAuxSpillways; ++i) {
-    list.push_back(
-        keptSpillway({entered.auxProfile[i], entered.auxMaterials[i]}, {read.auxProfile[i], read.auxMaterials[i]}));
+    list.push_back(keptSpillway({entered.auxProfile[i], entered.auxMaterials[i]},
+                                {read.auxProfile[i], read.auxMaterials[i]}, cut == CutNumbers::areKept));
     any = any || !list.back().is_null();
   }
   if (any) kept[kSpillways] = std::move(list);
@@ -229,25 +192,37 @@ void giveBackSampling(ApplicationState& state, const Json& kept) {
   give("bRandomPairing", state.bRandomPairing);
 }
 
-}  // namespace
-
-std::optional<std::string> composeCompanion(InputScreenSet& screens, ScreenContext& context, const ControlTexts& texts,
-                                            std::string_view file, std::string_view name) {
-  const std::set<std::string> written = writtenControls(screens, context.state);
-  ReadBack back(context.ports, texts);
-  Comparison comparison(written, back.used());
+Json whatIsLost(InputScreenSet& screens, const ApplicationState& state, const Written& written, ReadBack& back,
+                CutNumbers cut) {
+  Comparison comparison(written.controls, back.used(), cut);
   const std::vector<Screen*> entered = screens.sequence();
   const std::vector<Screen*> read = back.screens().sequence();
   for (std::size_t i = 0; i < entered.size(); ++i) {
     if (entered[i] != &screens.auxSpillwayProfile) comparison.compare(*entered[i], *read[i]);
   }
   Json kept = comparison.take();
-  keepSpillways(kept, screens.context.aux, back.screens().context.aux);
-  keepSampling(kept, context.state, back.state());
-  if (kept.empty()) return std::nullopt;
-  Json json = {{"of", textJson(std::string(name))}, {kDigest, digestOf(file)}};
-  json.update(kept);
-  return json.dump(1) + "\n";
+  keepSpillways(kept, screens.context.aux, back.screens().context.aux, cut);
+  keepSampling(kept, state, back.state());
+  return kept;
+}
+
+}  // namespace
+
+std::optional<std::string> composeCompanion(InputScreenSet& screens, ScreenContext& context, const ControlTexts& texts,
+                                            std::string_view file, std::string_view name) {
+  const Written written = writeOut(screens, context.state);
+  std::string companion;
+  for (const CutNumbers cut : {CutNumbers::stayCut, CutNumbers::areKept}) {
+    ReadBack back(context.ports, texts);
+    const Json kept = whatIsLost(screens, context.state, written, back, cut);
+    Json json = {{"of", textJson(std::string(name))}, {kDigest, digestOf(file)}};
+    json.update(kept);
+    companion = kept.empty() ? std::string() : json.dump(1) + "\n";
+    giveBackCompanion(back.screens(), back.context(), companion, file);
+    if (writeOut(back.screens(), back.state()).text == written.text) break;
+  }
+  if (companion.empty()) return std::nullopt;
+  return companion;
 }
 
 void giveBackCompanion(InputScreenSet& screens, ScreenContext& context, std::string_view companion,

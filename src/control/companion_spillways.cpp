@@ -8,6 +8,16 @@
 namespace kestra {
 namespace {
 
+// What of a text that was entered comes back: the text itself, or what the file gives for it where that is the same but
+// for blanks around it and an end that is cut off.
+const std::string& asRead(const std::string& entered, const std::string& read) {
+  constexpr std::size_t kWidths[] = {9, 10, 50};
+  if (entered == read || trim(entered) == read) return read;
+  const auto isCut = [&](std::size_t width) { return trim(charsFrom(entered, 0, width)) == read; };
+  const bool cut = charCount(entered) > kWidths[0] && std::any_of(std::begin(kWidths), std::end(kWidths), isCut);
+  return cut && !read.empty() ? read : entered;
+}
+
 // Makes the texts of `entered` those that were read, where they are the same but for what the file cuts.
 template <class Texts>
 void takeRead(Texts& entered, const Texts& read) {
@@ -50,15 +60,11 @@ bool sameMaterials(const AuxMaterials& a, const AuxMaterials& b) {
 
 }  // namespace
 
-const std::string& asRead(const std::string& entered, const std::string& read) {
-  constexpr std::size_t kWidths[] = {9, 10, 50};
-  if (entered == read || trim(entered) == read) return read;
-  const auto isCut = [&](std::size_t width) { return trim(charsFrom(entered, 0, width)) == read; };
-  const bool cut = charCount(entered) > kWidths[0] && std::any_of(std::begin(kWidths), std::end(kWidths), isCut);
-  return cut && !read.empty() ? read : entered;
-}
-
-Json keptSpillway(const SpillwayView& entered, const SpillwayView& read) {
+Json keptSpillway(const SpillwayView& entered, const SpillwayView& read, bool numbersAsTheyAre) {
+  if (numbersAsTheyAre) {
+    const bool same = entered.profile == read.profile && sameMaterials(entered.materials, read.materials);
+    return same ? Json() : spillwayJson(entered.profile, entered.materials);
+  }
   const AuxProfile profile = profileAsRead(entered.profile, read.profile);
   AuxMaterials materials = entered.materials;
   for (int number = 1; number <= std::min(materials.count, read.materials.count) + 2; ++number) {

@@ -244,11 +244,18 @@ bool ControlFiles::ControlFileUnchanged() {
   return text && sameLines(wholeText(), text.value());
 }
 
+// The bytes of a file that can be taken in.
+Result<std::string> ControlFiles::readLoadable(const std::string& fileName) {
+  auto text = context_.ports.files.read(fileName, kReadLimit);
+  if (text && longestLine(text.value()) > kLongestLine) {
+    return Failure{FailureKind::tooLarge, fileName, "A line is longer than 64 KiB"};
+  }
+  return text;
+}
+
 Status ControlFiles::checkLoadable(const std::string& fileName) {
-  const auto text = context_.ports.files.read(fileName, kReadLimit);
-  if (!text) return text.failure();
-  if (longestLine(text.value()) <= kLongestLine) return Done{};
-  return Failure{FailureKind::tooLarge, fileName, "A line is longer than 64 KiB"};
+  const auto text = readLoadable(fileName);
+  return text ? Status(Done{}) : Status(text.failure());
 }
 
 std::string ControlFiles::refusal(const Failure& failure) {
@@ -256,11 +263,7 @@ std::string ControlFiles::refusal(const Failure& failure) {
 }
 
 void ControlFiles::ReadControlFile(const std::string& fileName) {
-  const Status loadable = checkLoadable(fileName);
-  if (!loadable) {
-    return context_.ports.boxes.tell("File Error", refusal(loadable.failure()), BoxIcon::critical);
-  }
-  const auto text = context_.ports.files.read(fileName, kReadLimit);
+  const auto text = readLoadable(fileName);
   if (!text) return context_.ports.boxes.tell("File Error", refusal(text.failure()), BoxIcon::critical);
   LineReader lines(text.value());
   texts.controlText = takeRun(lines);

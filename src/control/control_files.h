@@ -59,6 +59,7 @@ class ControlFiles {
   // Of the spillways' runs in a file: how many lines stand before each.
   using FirstLines = std::array<std::size_t, kAuxSpillways>;
 
+  Result<std::string> readLoadable(const std::string& fileName);
   std::string outputDate(const std::string& fileName);
   std::vector<int> builtRuns() const;
   std::string wholeText() const;

@@ -14,6 +14,7 @@ ReadBack::ReadBack(const Ports& ports, const ControlTexts& texts)
   } catch (const RuntimeFault&) {
     // The screens stay as far as they were filled, which is what an opened file would give.
   }
+  screens_.auxSpillways.setCount(state_.numAuxSpillways);
 }
 
 }  // namespace kestra

@@ -12,6 +12,7 @@ class ReadBack {
   ReadBack(const Ports& ports, const ControlTexts& texts);
 
   InputScreenSet& screens() { return screens_; }
+  ScreenContext& context() { return context_; }
   const ApplicationState& state() const { return state_; }
   const std::set<std::string>& used() const { return fields_.used; }  // names of the controls that were given a text
 

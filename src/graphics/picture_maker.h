@@ -7,7 +7,7 @@
 
 #include "base/result.h"
 #include "base/text.h"
-#include "graphics/canvas_log.h"
+#include "graphics/canvas_replay.h"
 
 namespace kestra {
 
@@ -23,11 +23,6 @@ inline std::optional<PictureForm> pictureForm(std::string_view name) {
   return std::nullopt;
 }
 
-// Pixels; in a PDF of 96 to the inch.
-struct PictureSize {
-  int width = 800;
-  int height = 600;
-};
 inline constexpr int kMostPixels = 20000;  // in width and in height
 
 // Makes pictures of what canvases show, without a window.

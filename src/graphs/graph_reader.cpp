@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/numbers.h"
+#include "graphs/run_rows.h"
 
 namespace kestra {
 namespace {
@@ -40,6 +41,19 @@ Reading fitted(const GraphRequest& graph, Fit x, Fit y) {
   fitAxis(*xs, x, graph.extents.Xmin, graph.extents.Xmax);
   fitAxis(*ys, y, graph.extents.Ymin, graph.extents.Ymax);
   return {Reading::Outcome::drawn, {}};
+}
+
+void addBreach(const RunFiles& run, SeriesStore& series, int firstColumn) {
+  constexpr int kHeadings = 5;
+  constexpr int kWidth = 12;
+  const Result<std::string> text = run.read("BRE");
+  if (!text) return;
+  RunReader reader(text.value());
+  reader.skip(kHeadings);
+  const int line = series.addSeries("Breach");
+  const int rows =
+      reader.rows([&](const RunRow& row) { series.add(line, row.number(1, kWidth), row.number(firstColumn, kWidth)); });
+  if (rows == 0) --series.SeriesCount;
 }
 
 std::string outputText(const RunFiles& run) {

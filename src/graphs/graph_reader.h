@@ -52,6 +52,10 @@ enum class Fit {
 // Sets the extents to those of all points; `drawn`, or `missing` when there is none.
 Reading fitted(const GraphRequest& graph, Fit x, Fit y);
 
+// Adds the series "Breach" of a column of the breach history, of 12 from `firstColumn` on, over the time; nothing where
+// there is no history, or no row in it.
+void addBreach(const RunFiles& run, SeriesStore& series, int firstColumn);
+
 // The text of the run's output; empty when there is none.
 std::string outputText(const RunFiles& run);
 

@@ -50,21 +50,6 @@ void addDrawdown(const std::string& text, SeriesStore& series, int line) {
   });
 }
 
-// The sill of the breach over the time.
-void addBreach(const RunFiles& run, SeriesStore& series) {
-  constexpr int kHeadings = 5;
-  constexpr int kElevation = 25;
-  constexpr int kField = 12;
-  const Result<std::string> text = run.read("BRE");
-  if (!text) return;
-  RunReader reader(text.value());
-  reader.skip(kHeadings);
-  const int line = series.addSeries("Breach");
-  const int rows =
-      reader.rows([&](const RunRow& row) { series.add(line, row.number(1, kWidth), row.number(kElevation, kField)); });
-  if (rows == 0) --series.SeriesCount;
-}
-
 // The crest as a level line as long as the first series.
 void addCrest(const std::string& text, SeriesStore& series) {
   constexpr int kElevation = 21;
@@ -115,7 +100,8 @@ Reading DrawHydrograph(const GraphRequest& graph) {
       [&](const RunRow& row) { graph.series.add(line, routingField(row, 0), routingField(row, graph.column)); });
   if (rows > 0 && !tailwater) {
     addDrawdown(text, graph.series, line);
-    addBreach(graph.run, graph.series);
+    constexpr int kSill = 25;
+    addBreach(graph.run, graph.series, kSill);
     addCrest(text, graph.series);
   }
   return fitted(graph, Fit::toData, Fit::toData);

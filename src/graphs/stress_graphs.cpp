@@ -1,3 +1,5 @@
+#include <optional>
+
 #include "base/text.h"
 #include "graphs/graph_reader.h"
 #include "graphs/run_rows.h"
@@ -48,42 +50,33 @@ bool findRiprap(RunReader& reader) {
   return reader.find(isAnchor).has_value();
 }
 
-void addBreach(const RunFiles& run, SeriesStore& series) {
-  constexpr int kHeadings = 5;
-  constexpr int kDischarge = 61;
-  const Result<std::string> text = run.read("BRE");
-  if (!text) return;
-  RunReader reader(text.value());
-  reader.skip(kHeadings);
-  const int line = series.addSeries("Breach");
-  const int rows =
-      reader.rows([&](const RunRow& row) { series.add(line, row.number(1, kWidth), row.number(kDischarge, kWidth)); });
-  if (rows == 0) --series.SeriesCount;
+// The table of a run over riprap; nothing when the slope of the run is another one.
+std::optional<Reading> drawRiprap(const GraphRequest& graph, const std::string& text, const Column& column) {
+  RunReader reader(text);
+  if (!isRiprapRun(reader)) return std::nullopt;
+  return findRiprap(reader) ? drawTable(graph, reader, kRiprapHeadings, {column}) : Reading();
+}
+
+Reading drawSlope(const GraphRequest& graph, const std::string& text, std::initializer_list<Column> columns) {
+  RunReader reader(text);
+  return reader.findPart("Stress on") ? drawTable(graph, reader, kStressHeadings, columns) : Reading();
 }
 
 }  // namespace
 
 Reading DrawStressGraph(const GraphRequest& graph) {
   const std::string text = outputText(graph.run);
-  RunReader reader(text);
-  if (isRiprapRun(reader)) {
-    if (!findRiprap(reader)) return {};
-    return drawTable(graph, reader, kRiprapHeadings, {kRiprapAllowable});
-  }
-  if (!reader.findPart("Stress on")) return {};
-  return drawTable(graph, reader, kStressHeadings, {kGrossStress, kEffectiveStress});
+  if (const auto riprap = drawRiprap(graph, text, kRiprapAllowable)) return *riprap;
+  return drawSlope(graph, text, {kGrossStress, kEffectiveStress});
 }
 
 Reading DrawDischargeGraph(const GraphRequest& graph) {
+  constexpr int kBreachDischarge = 61;
   const std::string text = outputText(graph.run);
-  RunReader reader(text);
-  if (isRiprapRun(reader)) {
-    if (!findRiprap(reader)) return {};
-    return drawTable(graph, reader, kRiprapHeadings, {kRiprapDischarge});
-  }
-  if (!reader.findPart("Stress on")) return {};
-  drawTable(graph, reader, kStressHeadings, {kUnitDischarge});
-  addBreach(graph.run, graph.series);
+  if (const auto riprap = drawRiprap(graph, text, kRiprapDischarge)) return *riprap;
+  const Reading slope = drawSlope(graph, text, {kUnitDischarge});
+  if (slope.outcome != Reading::Outcome::drawn) return slope;
+  addBreach(graph.run, graph.series, kBreachDischarge);
   return fitted(graph, Fit::fromZero, Fit::fromZero);
 }
 

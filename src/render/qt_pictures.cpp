@@ -7,9 +7,10 @@
 #include <QMarginsF>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 
-#include "render/canvas_painter.h"
+#include "graphics/svg_file.h"
+#include "render/painter_brush.h"
+#include "render/png_file.h"
 
 namespace kestra {
 namespace {
@@ -24,33 +25,20 @@ std::string bytesOf(const QByteArray& bytes) {
   return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-Result<std::string> paintImage(const CanvasLog& drawing, const char* form, PictureSize size) {
+Result<std::string> paintImage(const CanvasLog& drawing, PictureForm form, PictureSize size) {
   QImage image(size.width, size.height, QImage::Format_RGB32);
   if (image.isNull()) return failure("The picture is too large for the memory");
   constexpr int kDotsPerMeter = 3780;
   image.setDotsPerMeterX(kDotsPerMeter);
   image.setDotsPerMeterY(kDotsPerMeter);
   QPainter painter(&image);
-  CanvasPainter(painter, size, size.width, true).draw(drawing);
+  PainterBrush brush(painter, true);
+  replay(drawing, size, size.width, brush);
   painter.end();
+  if (form == PictureForm::png) return bytesOf(pngFile(image));
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  // Graphs are few lines on one colour: a light compression makes them hardly larger and is several times as quick.
-  constexpr int kLightCompression = 80;
-  if (!image.save(&buffer, form, kLightCompression)) return failure("The picture could not be encoded");
-  return bytesOf(buffer.data());
-}
-
-Result<std::string> paintSvg(const CanvasLog& drawing, PictureSize size) {
-  QBuffer buffer;
-  QSvgGenerator generator;
-  generator.setOutputDevice(&buffer);
-  generator.setSize({size.width, size.height});
-  generator.setViewBox(QRect(0, 0, size.width, size.height));
-  generator.setResolution(kPixelsPerInch);
-  QPainter painter(&generator);
-  CanvasPainter(painter, size, size.width, false).draw(drawing);
-  painter.end();
+  if (!image.save(&buffer, "BMP")) return failure("The picture could not be encoded");
   return bytesOf(buffer.data());
 }
 
@@ -68,18 +56,32 @@ Result<std::string> paintPdf(const std::vector<const CanvasLog*>& drawings, Pict
   writer.setCreator(QStringLiteral("Kestra B"));
   QPainter painter(&writer);
   painter.scale(static_cast<double>(kDotsPerInch) / kPixelsPerInch, static_cast<double>(kDotsPerInch) / kPixelsPerInch);
+  PainterBrush brush(painter, false);
   for (std::size_t i = 0; i < drawings.size(); ++i) {
     if (i > 0) writer.newPage();
-    CanvasPainter(painter, size, kFiner * size.width, false).draw(*drawings[i]);
+    replay(*drawings[i], size, kFiner * size.width, brush);
   }
   painter.end();
   return bytesOf(buffer.data());
 }
 
+// While it lives Qt keeps its warnings to itself: starting without a desktop session brings some.
+class QtSilence {
+ public:
+  QtSilence() : before_(qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {})) {}
+  ~QtSilence() { qInstallMessageHandler(before_); }
+  QtSilence(const QtSilence&) = delete;
+  QtSilence& operator=(const QtSilence&) = delete;
+
+ private:
+  QtMessageHandler before_;
+};
+
 }  // namespace
 
 // The Qt application that painting texts needs, on a platform without a display.
 struct QtPictures::Toolkit {
+  QtSilence silence;
   std::string name = "kestra";
   std::string option = "-platform";
   std::string platform = "offscreen";
@@ -92,7 +94,7 @@ class QtPictures::Metrics : public TextMetrics {
  public:
   explicit Metrics(PictureSize size) : size_(size) {}
   TextSize measure(std::string_view text, double fontSize, bool bold) const override {
-    const QFontMetricsF metrics(fontFor(fontSize, bold, pictureScale(size_)));
+    const QFontMetricsF metrics(fontFor(letterSize(fontSize, pictureScale(size_)), bold));
     const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     return {metrics.horizontalAdvance(shown) / size_.width, metrics.height() / size_.height};
   }
@@ -117,11 +119,10 @@ Result<std::string> QtPictures::make(const std::vector<const CanvasLog*>& drawin
   start();
   switch (form) {
     case PictureForm::png:
-      return paintImage(*drawings.front(), "PNG", size);
     case PictureForm::bmp:
-      return paintImage(*drawings.front(), "BMP", size);
+      return paintImage(*drawings.front(), form, size);
     case PictureForm::svg:
-      return paintSvg(*drawings.front(), size);
+      return svgFile(*drawings.front(), size);
     case PictureForm::pdf:
       return paintPdf(drawings, size);
   }

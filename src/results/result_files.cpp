@@ -36,7 +36,7 @@ Result<std::string> readResultFile(FileSystem& files, const std::string& path) {
 }
 
 Status writeResultFile(FileSystem& files, const std::string& path, std::string_view text) {
-  return writeWholeFile(files, presentPath(files, path), text);
+  return writeWholeFile(files, presentPath(files, path), text, Durable::no);
 }
 
 }  // namespace kestra

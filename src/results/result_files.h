@@ -25,7 +25,7 @@ std::string presentPath(FileSystem& files, const std::string& path);
 // Fails as FileSystem::read does, notFound where there is no such file.
 Result<std::string> readResultFile(FileSystem& files, const std::string& path);
 
-// Writes the file over the one of that name, whatever its letter case.
+// Writes the file over the one of that name, whatever its letter case. It is not synced: a run can be run again.
 Status writeResultFile(FileSystem& files, const std::string& path, std::string_view text);
 
 }  // namespace kestra

@@ -1,6 +1,5 @@
 #include "run/build_pipeline.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -30,11 +29,6 @@ class BuildEnded : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
-
-// A directory of such a name would be the project itself, or the one above.
-bool isOnlyDots(std::string_view name) {
-  return name.find_first_not_of('.') == std::string_view::npos;
-}
 
 }  // namespace
 
@@ -114,8 +108,7 @@ BuildPipeline::Names BuildPipeline::namesOf(const std::string& controlFile) {
 void BuildPipeline::makeResultsDirectory(const Names& names) {
   FileSystem& files = context_.ports.files;
   if (isDirectory(files, names.base)) return emptyDirectory(files, names.base);
-  const Status made = files.makeDirectory(names.base);
-  if (!made) throw RuntimeFault(made.failure().path + ": " + made.failure().reason);
+  require(files.makeDirectory(names.base));
 }
 
 void BuildPipeline::runSpillway(const Names& names, int number) {
@@ -168,8 +161,7 @@ void BuildPipeline::moveGraphData(const std::string& instance, const std::string
       if (!equalIgnoringCase(entry.name, instance + extension)) continue;
       const std::string target = joinPath(directory, entry.name);
       if (exists(files, target)) throw RuntimeFault(target + ": File exists");
-      const Status moved = files.rename(joinPath(context_.state.projectDir, entry.name), target);
-      if (!moved) throw RuntimeFault(moved.failure().path + ": " + moved.failure().reason);
+      require(files.rename(joinPath(context_.state.projectDir, entry.name), target));
     }
   }
 }

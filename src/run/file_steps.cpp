@@ -1,8 +1,5 @@
 #include "run/file_steps.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/paths.h"
 #include "base/runtime_fault.h"
 #include "base/text.h"
@@ -16,24 +13,16 @@ namespace {
   throw RuntimeFault(failure.path + ": " + failure.reason);
 }
 
-void require(const Status& status) {
-  if (!status) fail(status.failure());
-}
-
-Status writeAnew(FileSystem& files, const std::string& path, std::string_view text) {
-  auto created = files.createNew(path);
-  if (!created) return created.failure();
-  const std::unique_ptr<OutputFile> file = std::move(created).value();
-  if (Status written = file->write(text); !written) return written;
-  return file->close();
-}
-
 bool isInputExtension(std::string_view extension) {
   const std::string lower = toLower(extension);
   return lower == "v2c" || lower == "ksc" || lower == "ksm" || lower.starts_with("as");
 }
 
 }  // namespace
+
+void require(const Status& status) {
+  if (!status) fail(status.failure());
+}
 
 std::string withoutExtension(std::string_view path) {
   const std::string_view name = ParsePathName(path);
@@ -44,6 +33,10 @@ std::string withoutExtension(std::string_view path) {
 
 bool hasExtension(std::string_view path) {
   return ParsePathName(path).find('.') != std::string_view::npos;
+}
+
+bool isOnlyDots(std::string_view name) {
+  return name.find_first_not_of('.') == std::string_view::npos;
 }
 
 std::string_view firstStem(std::string_view path) {
@@ -70,12 +63,7 @@ std::string readText(FileSystem& files, const std::string& path, std::uint64_t l
 }
 
 void writeText(FileSystem& files, const std::string& path, std::string_view text) {
-  const Status removed = files.removeFile(path);
-  if (!removed && !removed.failedAs(FailureKind::notFound)) fail(removed.failure());
-  const Status written = writeAnew(files, path, text);
-  if (written) return;
-  (void)files.removeFile(path);
-  fail(written.failure());
+  require(writeWholeFile(files, path, text, Durable::no));
 }
 
 void copyFile(FileSystem& files, const std::string& from, const std::string& to) {

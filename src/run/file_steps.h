@@ -11,9 +11,14 @@
 // RuntimeFault with the path and the system's words.
 namespace kestra {
 
+void require(const Status& status);  // throws for a failure
+
 // The path without the last "." of its name and what is behind; the path itself when its name has no dot.
 std::string withoutExtension(std::string_view path);
 bool hasExtension(std::string_view path);  // its name holds a dot
+
+// Whether a name without its extension is no name of a file: empty, or the directory itself or the one above.
+bool isOnlyDots(std::string_view name);
 
 // The name part of a path up to its first "."; all of it without one.
 std::string_view firstStem(std::string_view path);
@@ -26,7 +31,7 @@ bool isInputOfRuns(std::string_view name);
 std::optional<std::string> findFile(FileSystem& files, const std::string& path);
 
 std::string readText(FileSystem& files, const std::string& path, std::uint64_t limit = kReadLimit);
-// In place of what stood there. A file that could not be written whole is taken away again.
+// In place of what stood there, which stays when the file cannot be written whole.
 void writeText(FileSystem& files, const std::string& path, std::string_view text);
 void copyFile(FileSystem& files, const std::string& from, const std::string& to);
 void removeFound(FileSystem& files, const std::string& path);  // whatever its letter case; not there is fine

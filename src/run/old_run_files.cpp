@@ -52,15 +52,22 @@ void emptyResults(FileSystem& files, const std::string& stem) try {
 
 void deleteFilesOfStems(FileSystem& files, const std::vector<std::string>& stems) {
   std::map<std::string, Runs> byFolder;
-  for (const std::string& stem : stems) byFolder[std::string(directoryOf(stem))].emplace(ParsePathName(stem));
-  for (const auto& [folder, runs] : byFolder) deleteFilesIn(files, folder, runs);
-  for (const std::string& stem : stems) emptyResults(files, stem);
+  for (const std::string& stem : stems) {
+    if (const std::string_view run = ParsePathName(stem); !isOnlyDots(run)) {
+      byFolder[std::string(directoryOf(stem))].emplace(run);
+    }
+  }
+  for (const auto& [folder, runs] : byFolder) {
+    deleteFilesIn(files, folder, runs);
+    for (const std::string& run : runs) emptyResults(files, joinPath(folder, run));
+  }
 }
 
 void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName) {
   const std::size_t mark = runName.rfind('_');
   const std::string folder = mark == std::string::npos ? "" : runName.substr(0, mark);
-  deleteFilesOfStem(files, joinPath(joinPath(projectDirectory, folder), runName));
+  const std::string stem = absolutePath(joinPath(joinPath(projectDirectory, folder), runName), projectDirectory);
+  if (stem.starts_with(joinPath(projectDirectory, ""))) deleteFilesOfStem(files, stem);
 }
 
 }  // namespace kestra

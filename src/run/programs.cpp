@@ -153,7 +153,7 @@ int Programs::settle(const ProcessOutcome& outcome, const ProcessRequest& reques
 
 void Programs::tell(const std::string& message) {
   if (progress_.visible()) {
-    progress_.lblWhat.setCaption(message);
+    progress_.lblTold.setCaption(message);
     progress_.refresh();
   }
   if (onTold) onTold(message);

@@ -24,10 +24,6 @@ namespace {
 constexpr int kInstanceFields = 25;  // positions of the summary before those of an instance
 constexpr const char* kCompanion = "ASFILE";
 
-void require(const Status& status) {
-  if (!status) throw RuntimeFault(status.failure().path + ": " + status.failure().reason);
-}
-
 bool liesBelow(const std::string& path, const std::string& directory) {
   const std::string start = joinPath(directory, "");
   return !directory.empty() && equalIgnoringCase(path.substr(0, start.size()), start);
@@ -82,9 +78,7 @@ class SpillwayRun {
   }
 
   void runAlone() {
-    if (isDirectory(files(), base_)) require(removeTree(files(), base_));
     const std::string workDir = checkedDirectory(context_.ports, file_);
-    removeFound(files(), base_ + ".DIS");
     if (workDir.empty()) return;
     (void)context_.programs.run(kSpillwaySolver, file_);
     filter(base_);
@@ -92,11 +86,7 @@ class SpillwayRun {
   }
 
   void runAlternatives() {
-    if (!isDirectory(files(), base_)) {
-      require(files().makeDirectory(base_));
-    } else {
-      emptyDirectory(files(), base_);
-    }
+    require(files().makeDirectory(base_));
     DeleteOldRunFiles(files(), context_.state.projectDir, std::string(ParsePathName(base_)));
     copyFile(files(), joinPath(context_.programs.applicationDirectory(), kCompanion), joinPath(base_, kCompanion));
     const std::string text = readText(files(), file_);
@@ -176,8 +166,9 @@ std::string logOf(const RunContext& context, const std::string& path, const std:
 void RunSpillwayInstance(RunContext& context, const std::string& instanceFile, int spillwayNumber) {
   FileSystem& files = context.ports.files;
   const std::string path = absolutePath(trim(instanceFile), files.currentDirectory());
-  if (!liesBelow(path, context.state.projectDir)) return;
   const std::string base = withoutExtension(path);
+  const bool named = hasExtension(path) && !isOnlyDots(ParsePathName(base));
+  if (!named || !liesBelow(path, context.state.projectDir)) return;
   if (isDirectory(files, base)) require(removeTree(files, base));
   removeFound(files, base + ".DIS");
   const RunLog log(context.programs, logOf(context, path, base));

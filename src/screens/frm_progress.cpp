@@ -28,6 +28,7 @@ void frmProgress::begin(int steps) {
   begunNs_ = context_.ports.clock.steadyNs();
   Gauge.setLimits(0, steps);
   cmdStop.setEnabled(true);
+  lblTold.setCaption("");
   step(0, "");
 }
 

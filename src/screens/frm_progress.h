@@ -19,6 +19,7 @@ class frmProgress : public Screen {
   CanvasControl Picture1{*this, "Picture1"};
   Label lblWhat{*this, "lblWhat"};
   kestra::Gauge Gauge{*this, "Gauge", 0, 1};
+  Label lblTold{*this, "lblTold"};  // what went wrong last; stays while the command goes on
   Label lblTime{*this, "lblTime"};  // "1:05", minutes and seconds
   Button cmdStop{*this, "cmdStop", "&Stop"};
 

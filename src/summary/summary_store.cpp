@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "base/runtime_fault.h"
 #include "base/text.h"
+#include "platform/files.h"
 #include "results/result_files.h"
 #include "summary/digest_values.h"
 
@@ -74,7 +75,7 @@ Status SummaryStore::writeFile(const std::string& path, const SummarySelection& 
     if (!text && !text.failedAs(FailureKind::notFound)) return text.failure();
     if (text) file = joined(readSummaryFile(text.value()), selection, file.entryNames);
   }
-  return writeResultFile(ports_.files, target, summaryFileText(file.selection, file.entryNames));
+  return writeWholeFile(ports_.files, target, summaryFileText(file.selection, file.entryNames));
 }
 
 std::size_t SummaryStore::LoadDigestEntry(int fieldOffset, const std::string& digestPath,

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "automation/driver_desk.h"
+#include "support/fake_pictures.h"
 
 namespace kestra {
 namespace {
@@ -153,31 +154,19 @@ TEST_F(CanvasVerbs, makeNoPictureWithoutARenderer) {
   EXPECT_EQ(tell("image", ",'file':'a.png'"), "{'ok':false,'error':'table is no canvas'}");
 }
 
-// Its pictures tell what they are made of.
-struct FakePictures : PictureMaker {
-  Result<std::string> make(const std::vector<const CanvasLog*>& drawings, PictureForm form, PictureSize size) override {
-    if (size.width == 0) return Failure{FailureKind::other, {}, "no size"};
-    return std::to_string(drawings.at(0)->calls().size()) + " calls, form " + std::to_string(static_cast<int>(form)) +
-           ", " + std::to_string(size.width) + "x" + std::to_string(size.height);
-  }
-  const TextMetrics& metrics(PictureSize) override { return fixed; }
-  struct : TextMetrics {
-    TextSize measure(std::string_view text, double, bool) const override { return fixedTextSize(text); }
-  } fixed;
-};
-
 TEST_F(CanvasVerbs, renderAPictureOfTheSizeThatIsAskedFor) {
   FakePictures pictures;
   desk.app.shell.graphs.context.pictures = &pictures;
-  desk.gallery.canvas.Line(0, 0, 1, 1);
+  desk.gallery.canvas.Print("here");
   EXPECT_EQ(onCanvas("image", ",'file':'a.svg','width':20,'height':10"), kDone);
-  EXPECT_EQ(desk.memory.content("/home/a.svg"), "1 calls, form 1, 20x10");
+  EXPECT_EQ(desk.memory.content("/home/a.svg"), "form 1, 20x10, 1: here");
   EXPECT_EQ(onCanvas("image", ",'file':'a.PNG'"), kDone);
-  EXPECT_EQ(desk.memory.content("/home/a.PNG"), "1 calls, form 0, 800x600");
+  EXPECT_EQ(desk.memory.content("/home/a.PNG"), "form 0, 800x600, 1: here");
   EXPECT_EQ(onCanvas("image", ""), "{'ok':false,'error':'field \\'file\\' is missing'}");
-  EXPECT_EQ(onCanvas("image", ",'file':'a.png','width':0"), "{'ok':false,'error':'a.png: no size'}");
   EXPECT_EQ(onCanvas("image", ",'file':'a.gif'"),
             "{'ok':false,'error':'a.gif: the name of a picture ends in .png, .svg, .pdf or .bmp'}");
+  pictures.fails = true;
+  EXPECT_EQ(onCanvas("image", ",'file':'a.png'"), "{'ok':false,'error':'a.png: no colours left'}");
 }
 
 TEST_F(CanvasVerbs, leaveAnOldPictureWhereTheNewOneCannotBeWritten) {

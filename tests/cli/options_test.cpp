@@ -42,6 +42,7 @@ constexpr const char* kGeneral =
     "  check                       check the integrity of control files\n"
     "  summary                     print the results of a project's runs\n"
     "  drive                       carry out requests, one JSON object a line, from standard input\n"
+    "  graph                       draw graphs of a finished run, or list them\n"
     "  help                        tell about the commands\n"
     "\n";
 constexpr const char* kNew =
@@ -79,6 +80,26 @@ constexpr const char* kDrive =
     "\n"
     "Options of every command: --app-dir DIR, --settings FILE\n";
 
+constexpr const char* kGraph =
+    "draw graphs of a finished run, or list them\n"
+    "Usage: kestra graph [OPTIONS] FILE\n"
+    "\n"
+    "Positionals:\n"
+    "  FILE REQUIRED               the control file of the run\n"
+    "\n"
+    "Options:\n"
+    "  -h,--help                   Print this help message and exit\n"
+    "  --list Excludes: --graph    list the graphs, and which of them can be drawn\n"
+    "  --graph N[,N...]:INT in [0 - 21] ... Needs: --output Excludes: --list\n"
+    "                              numbers of the graphs, 0 to 21, with commas between\n"
+    "  --format FORM:{png,svg,pdf,csv} Needs: --graph\n"
+    "                              png, svg, pdf or csv; else by the name of the output\n"
+    "  --size WxH Needs: --graph   width and height in pixels, 1200x800 when not given\n"
+    "  -o,--output OUT Needs: --graph\n"
+    "                              file to write; - for the standard output\n"
+    "\n"
+    "Options of every command: --app-dir DIR, --settings FILE\n";
+
 struct Telling {
   std::vector<const char*> words;
   int exitCode;
@@ -101,6 +122,21 @@ TEST(CommandLine, tellsTheVersionAndHelpAndWhatIsWrong) {
       {{"help", "build"}, 0, kBuild, ""},
       {{"--settings", "s", "help", "drive"}, 0, kDrive, ""},
       {{"drive", "--help"}, 0, kDrive, ""},
+      {{"help", "graph"}, 0, kGraph, ""},
+      {{"graph"}, 2, "", wrong("FILE is required")},
+      {{"graph", "a"}, 2, "", wrong("graph needs --list or --graph")},
+      {{"graph", "a", "--graph", "0"}, 2, "", wrong("--graph requires --output")},
+      {{"graph", "a", "--list", "-o", "b"}, 2, "", wrong("--output requires --graph")},
+      {{"graph", "a", "--graph", "22", "-o", "b"}, 2, "", wrong("--graph: Value 22 not in range 0 to 21")},
+      {{"graph", "a", "--graph", "0,x", "-o", "b"}, 2, "", wrong("--graph: Value x not in range 0 to 21")},
+      {{"graph", "a", "--graph", "0", "-o", "b", "--format", "gif"},
+       2,
+       "",
+       wrong("--format: gif not in {png,svg,pdf,csv}")},
+      {{"graph", "a", "--graph", "0", "-o", "b", "--size", "0x5"},
+       2,
+       "",
+       wrong("--size: 0x5 is no size such as 1200x800, of 1 to 20000 pixels each way")},
       {{"help", "dance"}, 2, "", "kestra: no command named dance\n"},
       {{}, 2, "", kGeneral},
       {{"--yes"}, 2, "", kGeneral},
@@ -203,6 +239,18 @@ TEST(CommandLine, canDoWithoutAControlFile) {
   ASSERT_TRUE(parsed.options);
   EXPECT_EQ(parsed.options->controlFile + parsed.options->appDirectory + parsed.options->settingsFile, "");
   EXPECT_FALSE(parsed.options->yes);
+}
+
+TEST(CommandLine, takesTheGraphsThatAreToBeDrawn) {
+  const Parsed parsed = parse({"graph", "a.KSC", "--graph", "3,0,21", "--format", "csv", "--size", "12x8", "-o", "b"});
+  ASSERT_TRUE(parsed.options) << parsed.err;
+  EXPECT_EQ(parsed.options->command, CliCommand::graph);
+  EXPECT_EQ(parsed.options->controlFile, "a.KSC");
+  EXPECT_EQ(parsed.options->graphs, (std::vector<int>{3, 0, 21}));
+  EXPECT_EQ(parsed.options->format, "csv");
+  EXPECT_EQ(parsed.options->size, "12x8");
+  EXPECT_EQ(parsed.options->output, "b");
+  EXPECT_TRUE(parse({"graph", "--list", "a.KSC"}).options->list);
 }
 
 }  // namespace

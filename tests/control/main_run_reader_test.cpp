@@ -58,17 +58,26 @@ INSTANTIATE_TEST_SUITE_P(
         ReadCase{"anIdentifierKeepsItsBlanksUpToColumn70",
                  {"KESTRA    01/01/1999  Mill " + std::string(50, 'x')},
                  {{"frmProjectInformation.txtWatershedID", "  Mill " + std::string(43, 'x')}}},
-        ReadCase{"quilStandsForKestra", {"QUIL      ..........Mill"}, {{"frmProjectInformation.txtWatershedID", "Mill"}}},
-        ReadCase{"aShortIdentityLeavesTheIdentifier", {"KESTRA    01/01/2009"}, {{"frmProjectInformation.txtWatershedID", ""}}},
-        ReadCase{"detailedIsSimple", {"OPTION    DETAILED  RIPRAP"}, {{"frmProjectInformation.optSimple", "on"}, {"frmProjectInformation.optRipRap", "on"}}},
+        ReadCase{
+            "quilStandsForKestra", {"QUIL      ..........Mill"}, {{"frmProjectInformation.txtWatershedID", "Mill"}}},
+        ReadCase{"aShortIdentityLeavesTheIdentifier",
+                 {"KESTRA    01/01/2009"},
+                 {{"frmProjectInformation.txtWatershedID", ""}}},
+        ReadCase{"detailedIsSimple",
+                 {"OPTION    DETAILED  RIPRAP"},
+                 {{"frmProjectInformation.optSimple", "on"}, {"frmProjectInformation.optRipRap", "on"}}},
         ReadCase{"coefficientBareAndNoSpillway",
                  {"OPTION    COEFF     BARESOIL  NOPS"},
                  {{"frmProjectInformation.optUser", "on"},
                   {"frmProjectInformation.optBare", "on"},
                   {"frmPSType.optNone", "on"},
                   {"frmProjectInformation.optBreachAnalysis", "on"}}},
-        ReadCase{"noBreach", {"OPTION    SIMPLE    EARTH               NOBREACH"}, {{"frmProjectInformation.optNoBreachAnalysis", "on"}, {"frmHydrographData.chk10daydrawdown", "off"}}},
-        ReadCase{"nobaIsNoBreach", {"OPTION    SIMPLE    EARTH               NOBA"}, {{"frmProjectInformation.optNoBreachAnalysis", "on"}}},
+        ReadCase{"noBreach",
+                 {"OPTION    SIMPLE    EARTH               NOBREACH"},
+                 {{"frmProjectInformation.optNoBreachAnalysis", "on"}, {"frmHydrographData.chk10daydrawdown", "off"}}},
+        ReadCase{"nobaIsNoBreach",
+                 {"OPTION    SIMPLE    EARTH               NOBA"},
+                 {{"frmProjectInformation.optNoBreachAnalysis", "on"}}},
         ReadCase{"anotherWordIsBreach",
                  {"OPTION    SIMPLE    EARTH               NOBREACH", "OPTION    SIMPLE    EARTH               BREACH"},
                  {{"frmProjectInformation.optBreachAnalysis", "on"}}},
@@ -84,7 +93,8 @@ INSTANTIATE_TEST_SUITE_P(
                   "OPTION    SIMPLE    EARTH               DRAWDOWN  85        PERCENT   "},
                  {{"frmHydrographData.optPercent", "on"}, {"frmHydrographData.txtDrawdownTime", "240"}}},
         ReadCase{"aDrawdownThatIsGivenUp",
-                 {"OPTION    SIMPLE    EARTH               DRAWDOWN  85", "OPTION    SIMPLE    EARTH               NOBREACH"},
+                 {"OPTION    SIMPLE    EARTH               DRAWDOWN  85",
+                  "OPTION    SIMPLE    EARTH               NOBREACH"},
                  {{"frmHydrographData.chk10daydrawdown", "off"}}},
         ReadCase{"commentsOneBehindTheOther",
                  {"*           two blanks ", "COMMENT   " + std::string(70, 'x'), "*", "*         "},
@@ -93,293 +103,172 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Dam, MainRunRead,
-    testing::Values(
-        ReadCase{"headcutModel1",
-                 {"HCMODEL   1                   0.8                 0.05      0.04"},
-                 {{"Properties.optHcModel(1)", "on"}, {"Properties.txtKd", "0.8"}, {"Properties.txtCriticalShearStress", "0.05"}, {"Properties.txtHeadcutIndex", "0.04"}}},
-        ReadCase{"headcutModel2",
-                 {"HCMODEL   2         115       0.8       700       0.05"},
-                 {{"Properties.optHcModel(2)", "on"},
-                  {"Properties.txtBulkDensity", "115"},
-                  {"Properties.txtKd", "0.8"},
-                  {"Properties.txtUndrainedShear", "700"},
-                  {"Properties.txtCriticalShearStress", "0.05"}}},
-        ReadCase{"noHeadcutModelIsTheSecond", {"HCMODEL"}, {{"Properties.optHcModel(2)", "on"}}},
-        ReadCase{"theModelIsANumber", {"HCMODEL    1.0                0.8"}, {{"Properties.optHcModel(1)", "on"}, {"Properties.txtKd", "0.8"}}},
-        ReadCase{"anotherModelReadsNoField", {"HCMODEL   3         115       0.8"}, {{"Properties.optHcModel(1)", "on"}, {"Properties.txtKd", ""}}},
-        ReadCase{"faces",
-                 {"UPSTREAM  3         5.6", "DAMCREST  12        5.5       2.65      ", "DWNSTREAM 2.5       0.03      0.7       1         12        0.002"},
-                 {{"frmDamSurface.txtUpSlope", "3"},
-                  {"frmDamSurface.txtUpRCI", "5.6"},
-                  {"frmDamSurface.txtCrestWidth", "12"},
-                  {"frmDamSurface.txtCrestRCI", "5.5"},
-                  {"frmDamSurface.txtCoeff", "2.65"},
-                  {"frmDamSurface.txtDownSlope", "2.5"},
-                  {"frmDamSurface.txtDownRCI", "0.03"},
-                  {"frmDamSurface.txtDownVCF", "0.7"},
-                  {"frmDamSurface.txtDownCode", "1"},
-                  {"frmDamSurface.txtDownPI", "12"},
-                  {"frmDamSurface.txtDownDiameter", "0.002"}}},
-        ReadCase{"aShortLineLeavesTheOtherFields",
-                 {"DAMCREST  12        5.5       2.65", "DAMCREST  14"},
-                 {{"frmDamSurface.txtCrestWidth", "14"}, {"frmDamSurface.txtCrestRCI", "5.5"}}},
-        ReadCase{"aBlankFieldIsTaken",
-                 {"DAMCREST  12        5.5       2.65", "DAMCREST  14                  2.7"},
-                 {{"frmDamSurface.txtCrestWidth", "14"}, {"frmDamSurface.txtCrestRCI", ""}}},
-        ReadCase{"downstreamOfRiprapIsToldByTheOptions",
-                 {"OPTION    SIMPLE    RIPRAP", "DWNSTREAM 2.5       1.8       0.5       1.5       0.4"},
-                 {{"frmDamSurface.txtRiprapU", "1.8"}, {"frmDamSurface.txtRiprapD50", "0.5"}, {"frmDamSurface.txtRiprapT", "1.5"}, {"frmDamSurface.txtRiprapP", "0.4"}, {"frmDamSurface.txtDownRCI", ""}}},
-        ReadCase{"downstreamOfBareSoilIsToldByTheOptions",
-                 {"OPTION    SIMPLE    BARESOIL", "DWNSTREAM 2.5       0.03      0.7"},
-                 {{"frmDamSurface.txtDownSlope", "2.5"}, {"frmDamSurface.txtDownRCI", "0.03"}, {"frmDamSurface.txtDownVCF", ""}}},
-        ReadCase{"routing", {"STROUTE   1012      1000      CFS"}, {{"frmStructureTable.txtStartRouting", "1012"}, {"frmStructureTable.txtValleyFloor", "1000"}, {"frmStructureTable.optCFS", "on"}}},
-        ReadCase{"routingWithoutAUnitIsInFeet", {"STROUTE   1012      1000      CFS", "STROUTING 1013"}, {{"frmStructureTable.txtStartRouting", "1013"}, {"frmStructureTable.optFEET", "on"}}},
-        ReadCase{"anUnknownKeywordIsPassedOver", {"FOREIGN   1", "OUTPUT    ALL", "UPSTREAM  3"}, {{"frmDamSurface.txtUpSlope", "3"}}}),
+    testing::Values(ReadCase{"headcutModel1",
+                             {"HCMODEL   1                   0.8                 0.05      0.04"},
+                             {{"Properties.optHcModel(1)", "on"},
+                              {"Properties.txtKd", "0.8"},
+                              {"Properties.txtCriticalShearStress", "0.05"},
+                              {"Properties.txtHeadcutIndex", "0.04"}}},
+                    ReadCase{"headcutModel2",
+                             {"HCMODEL   2         115       0.8       700       0.05"},
+                             {{"Properties.optHcModel(2)", "on"},
+                              {"Properties.txtBulkDensity", "115"},
+                              {"Properties.txtKd", "0.8"},
+                              {"Properties.txtUndrainedShear", "700"},
+                              {"Properties.txtCriticalShearStress", "0.05"}}},
+                    ReadCase{"noHeadcutModelIsTheSecond", {"HCMODEL"}, {{"Properties.optHcModel(2)", "on"}}},
+                    ReadCase{"theModelIsANumber",
+                             {"HCMODEL    1.0                0.8"},
+                             {{"Properties.optHcModel(1)", "on"}, {"Properties.txtKd", "0.8"}}},
+                    ReadCase{"anotherModelReadsNoField",
+                             {"HCMODEL   3         115       0.8"},
+                             {{"Properties.optHcModel(1)", "on"}, {"Properties.txtKd", ""}}},
+                    ReadCase{"faces",
+                             {"UPSTREAM  3         5.6", "DAMCREST  12        5.5       2.65      ",
+                              "DWNSTREAM 2.5       0.03      0.7       1         12        0.002"},
+                             {{"frmDamSurface.txtUpSlope", "3"},
+                              {"frmDamSurface.txtUpRCI", "5.6"},
+                              {"frmDamSurface.txtCrestWidth", "12"},
+                              {"frmDamSurface.txtCrestRCI", "5.5"},
+                              {"frmDamSurface.txtCoeff", "2.65"},
+                              {"frmDamSurface.txtDownSlope", "2.5"},
+                              {"frmDamSurface.txtDownRCI", "0.03"},
+                              {"frmDamSurface.txtDownVCF", "0.7"},
+                              {"frmDamSurface.txtDownCode", "1"},
+                              {"frmDamSurface.txtDownPI", "12"},
+                              {"frmDamSurface.txtDownDiameter", "0.002"}}},
+                    ReadCase{"aShortLineLeavesTheOtherFields",
+                             {"DAMCREST  12        5.5       2.65", "DAMCREST  14"},
+                             {{"frmDamSurface.txtCrestWidth", "14"}, {"frmDamSurface.txtCrestRCI", "5.5"}}},
+                    ReadCase{"aBlankFieldIsTaken",
+                             {"DAMCREST  12        5.5       2.65", "DAMCREST  14                  2.7"},
+                             {{"frmDamSurface.txtCrestWidth", "14"}, {"frmDamSurface.txtCrestRCI", ""}}},
+                    ReadCase{"downstreamOfRiprapIsToldByTheOptions",
+                             {"OPTION    SIMPLE    RIPRAP", "DWNSTREAM 2.5       1.8       0.5       1.5       0.4"},
+                             {{"frmDamSurface.txtRiprapU", "1.8"},
+                              {"frmDamSurface.txtRiprapD50", "0.5"},
+                              {"frmDamSurface.txtRiprapT", "1.5"},
+                              {"frmDamSurface.txtRiprapP", "0.4"},
+                              {"frmDamSurface.txtDownRCI", ""}}},
+                    ReadCase{"downstreamOfBareSoilIsToldByTheOptions",
+                             {"OPTION    SIMPLE    BARESOIL", "DWNSTREAM 2.5       0.03      0.7"},
+                             {{"frmDamSurface.txtDownSlope", "2.5"},
+                              {"frmDamSurface.txtDownRCI", "0.03"},
+                              {"frmDamSurface.txtDownVCF", ""}}},
+                    ReadCase{"routing",
+                             {"STROUTE   1012      1000      CFS"},
+                             {{"frmStructureTable.txtStartRouting", "1012"},
+                              {"frmStructureTable.txtValleyFloor", "1000"},
+                              {"frmStructureTable.optCFS", "on"}}},
+                    ReadCase{"routingWithoutAUnitIsInFeet",
+                             {"STROUTE   1012      1000      CFS", "STROUTING 1013"},
+                             {{"frmStructureTable.txtStartRouting", "1013"}, {"frmStructureTable.optFEET", "on"}}},
+                    ReadCase{"anUnknownKeywordIsPassedOver",
+                             {"FOREIGN   1", "OUTPUT    ALL", "UPSTREAM  3"},
+                             {{"frmDamSurface.txtUpSlope", "3"}}}),
     caseName<ReadCase>);
 
 constexpr const char* kInlet = "PSpINLET  0.7       9         1012      1008      1.5       2         ";
 
 INSTANTIATE_TEST_SUITE_P(
     Conduit, MainRunRead,
-    testing::Values(
-        ReadCase{"theInletIsReadAsFarAsTheLineGoes",
-                 {kInlet},
-                 {{"frmPSConduit.txtEntranceLossCoefficient", "0.7"},
-                  {"frmPSConduit.txtWeirLength", "9"},
-                  {"frmPSConduit.txtHighStageCrest", "1012"},
-                  {"frmPSConduit.txtLowStageCrest", "1008"},
-                  {"frmPSConduit.txtOrificeHeight", "1.5"},
-                  {"frmPSConduit.txtOrificeWidth", "2"}}},
-        ReadCase{"rectangular",
-                 {"PSpDATA   1    12345624        3         0.013     1002      1000      SR"},
-                 {{"frmPSType.optSingleRec", "on"},
-                  {"frmPSConduit.txtNumOfConduit", "1"},
-                  {"frmPSConduit.txtLengthOfConduit", "12345"},
-                  {"frmPSConduit.txtDiameterOfConduit", "624"},
-                  {"frmPSConduit.txtHeight", "3"},
-                  {"frmPSConduit.txtManning", "0.013"},
-                  {"frmPSConduit.txtInvertElevAtRiser", "1002"},
-                  {"frmPSConduit.txtInvertElevAtOutlet", "1000"}}},
-        ReadCase{"circularHasNoHeight", {"PSpDATA   1    120  24        3         0.013     1002      1000      TC"}, {{"frmPSType.optTwoCir", "on"}, {"frmPSConduit.txtHeight", ""}}},
-        ReadCase{"withoutATypeItIsSingleAndCircular", {"PSpDATA   1    120  24"}, {{"frmPSType.optSingleCir", "on"}, {"frmPSConduit.txtLengthOfConduit", "120"}}},
-        ReadCase{"aHoodIsToldByItsRecordWhereverThatStands",
-                 {"PSpDATA   1    120  24                  0.013     1002      1000      HD",
-                  "PSpHOOD   60        65        1001      999       3.2       0.7       B"},
-                 {{"frmPSType.optHood", "on"},
-                  {"frmPSConduit.txtLengthOfConduit", ""},
-                  {"frmPSConduit.optBendInPipe", "on"},
-                  {"frmPSConduit.txtHorizInToBen", "60"},
-                  {"frmPSConduit.txtHorizBenToOut", "65"},
-                  {"frmPSConduit.txtElevationAtBend", "1001"},
-                  {"frmPSConduit.txtElevationAtOutlet", "999"},
-                  {"frmPSConduit.txtHoodWeirInletCoefficient", "3.2"},
-                  {"frmPSConduit.txtWeirInletCoefficient", ""},
-                  {"frmPSConduit.txtEntranceLossCoefficient", "0.7"}}},
-        ReadCase{"aHoodWithoutItsLetterKeepsThePipe", {"PSpHOOD   60"}, {{"frmPSConduit.optStraightPipe", "on"}, {"frmPSConduit.txtHorizInToBen", "60"}}},
-        ReadCase{"theWeirOfAHood",
-                 {"PSpHOOD   60        65        1001      999       3.2       0.7       S",
-                  "PSpCOEFFS 0.61      3.14      3.05      0.62      0.6       6"},
-                 {{"frmPSConduit.txtHoodWeirInletCoefficient", "0.6"}, {"frmPSConduit.txtHighStageWeirCoefficient", ""}}},
-        ReadCase{"theWeirOfARiser",
-                 {"PSpCOEFFS 0.61      3.14      3.05      0.62      3.1       6"},
-                 {{"frmPSConduit.txtConduitOrificeDischargeCoefficient", "0.61"},
-                  {"frmPSConduit.txtConduitOrificeArea", "3.14"},
-                  {"frmPSConduit.txtOrificeLowStageWeirFlow", "3.05"},
-                  {"frmPSConduit.txtOrificeLowStageFullFlow", "0.62"},
-                  {"frmPSConduit.txtHighStageWeirCoefficient", "3.1"},
-                  {"frmPSConduit.txtHoodWeirInletCoefficient", ""},
-                  {"frmPSConduit.txtFilletSize", "6"}}}),
+    testing::Values(ReadCase{"theInletIsReadAsFarAsTheLineGoes",
+                             {kInlet},
+                             {{"frmPSConduit.txtEntranceLossCoefficient", "0.7"},
+                              {"frmPSConduit.txtWeirLength", "9"},
+                              {"frmPSConduit.txtHighStageCrest", "1012"},
+                              {"frmPSConduit.txtLowStageCrest", "1008"},
+                              {"frmPSConduit.txtOrificeHeight", "1.5"},
+                              {"frmPSConduit.txtOrificeWidth", "2"}}},
+                    ReadCase{"rectangular",
+                             {"PSpDATA   1    12345624        3         0.013     1002      1000      SR"},
+                             {{"frmPSType.optSingleRec", "on"},
+                              {"frmPSConduit.txtNumOfConduit", "1"},
+                              {"frmPSConduit.txtLengthOfConduit", "12345"},
+                              {"frmPSConduit.txtDiameterOfConduit", "624"},
+                              {"frmPSConduit.txtHeight", "3"},
+                              {"frmPSConduit.txtManning", "0.013"},
+                              {"frmPSConduit.txtInvertElevAtRiser", "1002"},
+                              {"frmPSConduit.txtInvertElevAtOutlet", "1000"}}},
+                    ReadCase{"circularHasNoHeight",
+                             {"PSpDATA   1    120  24        3         0.013     1002      1000      TC"},
+                             {{"frmPSType.optTwoCir", "on"}, {"frmPSConduit.txtHeight", ""}}},
+                    ReadCase{"withoutATypeItIsSingleAndCircular",
+                             {"PSpDATA   1    120  24"},
+                             {{"frmPSType.optSingleCir", "on"}, {"frmPSConduit.txtLengthOfConduit", "120"}}},
+                    ReadCase{"aHoodIsToldByItsRecordWhereverThatStands",
+                             {"PSpDATA   1    120  24                  0.013     1002      1000      HD",
+                              "PSpHOOD   60        65        1001      999       3.2       0.7       B"},
+                             {{"frmPSType.optHood", "on"},
+                              {"frmPSConduit.txtLengthOfConduit", ""},
+                              {"frmPSConduit.optBendInPipe", "on"},
+                              {"frmPSConduit.txtHorizInToBen", "60"},
+                              {"frmPSConduit.txtHorizBenToOut", "65"},
+                              {"frmPSConduit.txtElevationAtBend", "1001"},
+                              {"frmPSConduit.txtElevationAtOutlet", "999"},
+                              {"frmPSConduit.txtHoodWeirInletCoefficient", "3.2"},
+                              {"frmPSConduit.txtWeirInletCoefficient", ""},
+                              {"frmPSConduit.txtEntranceLossCoefficient", "0.7"}}},
+                    ReadCase{"aHoodWithoutItsLetterKeepsThePipe",
+                             {"PSpHOOD   60"},
+                             {{"frmPSConduit.optStraightPipe", "on"}, {"frmPSConduit.txtHorizInToBen", "60"}}},
+                    ReadCase{"theWeirOfAHood",
+                             {"PSpHOOD   60        65        1001      999       3.2       0.7       S",
+                              "PSpCOEFFS 0.61      3.14      3.05      0.62      0.6       6"},
+                             {{"frmPSConduit.txtHoodWeirInletCoefficient", "0.6"},
+                              {"frmPSConduit.txtHighStageWeirCoefficient", ""}}},
+                    ReadCase{"theWeirOfARiser",
+                             {"PSpCOEFFS 0.61      3.14      3.05      0.62      3.1       6"},
+                             {{"frmPSConduit.txtConduitOrificeDischargeCoefficient", "0.61"},
+                              {"frmPSConduit.txtConduitOrificeArea", "3.14"},
+                              {"frmPSConduit.txtOrificeLowStageWeirFlow", "3.05"},
+                              {"frmPSConduit.txtOrificeLowStageFullFlow", "0.62"},
+                              {"frmPSConduit.txtHighStageWeirCoefficient", "3.1"},
+                              {"frmPSConduit.txtHoodWeirInletCoefficient", ""},
+                              {"frmPSConduit.txtFilletSize", "6"}}}),
     caseName<ReadCase>);
 
-INSTANTIATE_TEST_SUITE_P(
-    HydrographsAndSpillways, MainRunRead,
-    testing::Values(
-        ReadCase{"constantSteps",
-                 {"HYD       Big storm 0.25      1         1C        ", "ENDTABLE"},
-                 {{"frmHydrographData.txtTitle", "Big storm"},
-                  {"frmHydrographData.optConst", "on"},
-                  {"frmHydrographData.txtConst", "0.25"},
-                  {"frmHydrographData.txtDesired", ""},
-                  {"frmHydrographData.txtStartTime", "1"},
-                  {"frmHydrographData.chkAdjustTimeIncrement", "on"}}},
-        ReadCase{"variableSteps",
-                 {"HYDROGRAPHBig storm 0.25      1         0V        ", "ENDTABLE"},
-                 {{"frmHydrographData.optVariable", "on"}, {"frmHydrographData.txtConst", ""}, {"frmHydrographData.txtDesired", "0.25"}, {"frmHydrographData.chkAdjustTimeIncrement", "off"}}},
-        ReadCase{"aShortLineHasConstantSteps", {"HYD       1"}, {{"frmHydrographData.optConst", "on"}, {"frmHydrographData.txtTitle", "1"}, {"frmHydrographData.chkAdjustTimeIncrement", "off"}}},
-        ReadCase{"theHighestNumberIsTheCount",
-                 {"ASSURFACE 3Far      3"},
-                 {{"frmAuxSpillways.cmbAuxSpillways", "3"}, {"frmAuxSpillways.txtsway(2)", "Far"}, {"frmAuxSpillways.txtsway(0)", ""}, {"frmAuxSpillways.optProfile(0)", "on"}, {"frmAuxSpillways.optNone(2)", "on"}}},
-        ReadCase{"anotherNumberIsTheFirst", {"ASRATING  9Way"}, {{"frmAuxSpillways.cmbAuxSpillways", "1"}, {"frmAuxSpillways.txtsway(0)", "Way"}, {"frmAuxSpillways.optRating(0)", "on"}}},
-        ReadCase{"analysesOfTheSpillways",
-                 {"ASSURFACE 1One      3         50       1", "ENDTABLE", "ASSURFACE 2Two      3         50       2", "ENDTABLE", "ASRATING  3Three    1"},
-                 {{"frmAuxSpillways.optQUIL(0)", "on"}, {"frmAuxSpillways.optStability(1)", "on"}, {"frmAuxSpillways.optRating(2)", "on"}, {"frmAuxSpillways.optQUIL(2)", "on"}}}),
-    caseName<ReadCase>);
-
-struct TableCase {
-  const char* name;
-  Lines lines;
-  const char* table;
-  int row;
-  int column;
-  std::vector<Lines> cells;
-};
-
-void PrintTo(const TableCase& told, std::ostream* out) {
-  *out << told.name;
-}
-
-class MainRunTable : public testing::TestWithParam<TableCase> {};
-
-TEST_P(MainRunTable, isFilled) {
-  ControlDesk desk;
-  desk.parse(fileOf(GetParam().lines));
-  const std::string name = GetParam().table;
-  const auto& table = static_cast<const Table&>(*desk.host.find(name.substr(0, name.find('.')))->find(name.substr(name.find('.') + 1)));
-  for (std::size_t i = 0; i < GetParam().cells.size(); ++i) {
-    for (std::size_t j = 0; j < GetParam().cells[i].size(); ++j) {
-      EXPECT_EQ(table.cell(GetParam().row + static_cast<int>(i), GetParam().column + static_cast<int>(j)), GetParam().cells[i][j]) << i << ", " << j;
-    }
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Tables, MainRunTable,
-    testing::Values(
-        TableCase{"structureCellByCell",
-                  {"STRUCTURE pond", "                    1000                0         0.5", "                    1005", "x", "                    1010      7", "ENDTABLE", "                    1020"},
-                  "frmStructureTable.grdTable",
-                  1,
-                  1,
-                  {{"1000", "", "0", "0.5"}, {"1005", "", "", ""}, {"", "", "", ""}, {"1010", "7", "", ""}, {"", ""}}},
-        TableCase{"anEmptyLineEndsATable", {"STRUCTURE", "                    1000", "", "                    1005"}, "frmStructureTable.grdTable", 1, 1, {{"1000"}, {""}}},
-        TableCase{"crestByPairs", {"CRESTPRFL", "          0         1026", "          30", "          60        1024"}, "frmDamSurface.grdTable", 1, 1, {{"0", "", "60"}, {"1026", "", "1024"}}},
-        TableCase{"tailwaterByPairs", {"TAILWATER", "          1000      0", "          1001     ", "          1002      9"}, "frmPSRatingTable.grdTable", 1, 1, {{"1000", "0"}, {"", ""}, {"1002", "9"}}},
-        TableCase{"ratingCellsNeedACharacterMore",
-                  {"ASRATING  2Way", "          1", "          12", "          1020      5", "          1020      56"},
-                  "frmAuxRatingTable.grdTable(1)",
-                  1,
-                  1,
-                  {{"", ""}, {"12", ""}, {"1020", ""}, {"1020", "56"}}},
-        TableCase{"constantStepsCloseUp",
-                  {"HYD       t         1         0         0C", "                    1                   3", "                                        4                   6         7", "ENDTABLE"},
-                  "frmHydrographData.grdTable",
-                  1,
-                  1,
-                  {{"1"}, {"3"}, {"4"}, {"6"}, {""}}},
-        TableCase{"timesAndDischarges",
-                  {"HYD       t         1         0         0V", "          0         5", "                    6", "          0.5       7", "          0.75      ", "          9         9"},
-                  "frmHydrographData.varTable",
-                  1,
-                  0,
-                  {{"0", "5"}, {"0.5", "7"}, {"", ""}}},
-        TableCase{"templateByColumns",
-                  {"TEMPLATE  x", "          0         100", "          10        105                X", "          20", "ENDTABLE"},
-                  "frmDamSurface.xcTable",
-                  1,
-                  1,
-                  {{"0", "10", "20", "0"}, {"100", "105", "", "100"}, {"", "         X", "", ""}}}),
-    caseName<TableCase>);
-
-TEST(MainRunRead, fillsTheStoreOfASpillway) {
-  ControlDesk desk;
-  desk.parse(fileOf({"ASSURFACE 2Way      3         50       10.5       500", "          0         100       5.6       0.8       1         2",
-                     "          100       200", "ENDTABLE"}));
-  const AuxProfile& profile = desk.profile(1);
-  EXPECT_EQ(profile.txtSide, "3");
-  EXPECT_EQ(profile.txtBottom, "50");
-  EXPECT_EQ(profile.txtTopsoil, "0.5");
-  EXPECT_EQ(profile.txtEnd, "500");
-  EXPECT_EQ(profile.reaches[0], (AuxReach{"0", "100", "5.6", "0.8", "1", "2"}));
-  EXPECT_EQ(profile.reaches[1], (AuxReach{"100", "200", "", "", "", ""}));
-  EXPECT_EQ(desk.profile(0), AuxProfile());
-  EXPECT_EQ(desk.state.numAuxSpillways, 2);
-}
-
-TEST(MainRunRead, leavesWhatItDoesNotMention) {
-  ControlDesk desk;
-  desk.screens.damSurface.txtCrestWidth.setText("12");
-  desk.screens.structureTable.grdTable.setCell(3, 1, "1030");
-  desk.parse(fileOf({"STRUCTURE", "                    1000", "ENDTABLE"}));
-  EXPECT_EQ(desk.screens.damSurface.txtCrestWidth.text(), "12");
-  EXPECT_EQ(desk.screens.structureTable.grdTable.cell(1, 1), "1000");
-  EXPECT_EQ(desk.screens.structureTable.grdTable.cell(3, 1), "1030");
-}
-
-TEST(MainRunRead, hidesTheScreensThatItNeedsAndShowsTheOthersAnew) {
-  ControlDesk desk;
-  desk.host.show(desk.screens.psConduit);
-  desk.host.show(desk.screens.projectInformation);
-  desk.parse(fileOf({"PSpDATA   1    120  24                  0.013     1002      1000      TR"}));
-  EXPECT_EQ(desk.front(), "frmPSConduit");
-  EXPECT_EQ(desk.host.shown().size(), 1U);
-  EXPECT_EQ(desk.screens.psConduit.title(), "Principal Spillway: Two Stage Inlet, Rectangular Conduit");
-}
-
-TEST(MainRunRead, cannotBeUndoneAndIsNoEdit) {
-  ControlDesk desk;
-  desk.host.show(desk.screens.damSurface);
-  desk.screens.damSurface.txtCrestWidth.userReplace("12");
-  desk.state.fileDirty = false;
-  desk.parse("DAMCREST  14\r\n");
-  EXPECT_FALSE(desk.history.canUndo());
-  EXPECT_FALSE(desk.state.fileDirty);
-  desk.screens.damSurface.txtCrestWidth.userReplace("15");
-  EXPECT_TRUE(desk.history.undo());
-  EXPECT_EQ(desk.screens.damSurface.txtCrestWidth.text(), "14");
-}
-
-TEST(MainRunRead, isTakenAwayAgainWithItsScreens) {
-  ControlDesk desk;
-  const std::string blank = desk.build();
-  desk.parse(fileOf({"OPTION    COEFF     RIPRAP    NOPS", "DAMCREST  14", "PSpINLET  0.7", "PSpHOOD   60", "TAILWATER", "          1000      0", "ENDTABLE",
-                     "CRESTPRFL", "          0         1", "ENDTABLE", "ASRATING  1Way      1", "          1020      5", "ENDTABLE", "TEMPLATE", "          1"}));
-  EXPECT_NE(desk.build(), blank);
-  desk.unload();
-  EXPECT_EQ(desk.build(), blank);
-}
-
-struct FaultCase {
-  const char* name;
-  std::string head;
-  std::string row;
-  int rows;  // that the screen has room for
-  const char* record;
-};
-
-void PrintTo(const FaultCase& told, std::ostream* out) {
-  *out << told.name;
-}
-
-class TooManyRows : public testing::TestWithParam<FaultCase> {};
-
-TEST_P(TooManyRows, areToldOnceWithFileLineAndRecord) {
-  const auto& [name, head, row, rows, record] = GetParam();
-  std::string text = "UPSTREAM  3\r\n" + head + "\r\n";
-  for (int i = 0; i < rows; ++i) text += row + "\r\n";
-  ControlDesk desk;
-  desk.state.currentFile = "/p/dam.KSC";
-  desk.parse(text + "ENDTABLE\r\nDAMCREST  12\r\n");
-  EXPECT_EQ(desk.takeBoxes(), Lines());
-  EXPECT_EQ(desk.screens.damSurface.txtCrestWidth.text(), "12");
-  desk.unload();
-  desk.parse(text + row + "\r\n" + row + "\r\nENDTABLE\r\nDAMCREST  12\r\n");
-  EXPECT_EQ(desk.takeBoxes(), Lines{"File Error: /p/dam.KSC, line " + std::to_string(rows + 3) + ", record " + record +
-                                    ": more rows than the table holds."});
-  EXPECT_EQ(desk.screens.damSurface.txtUpSlope.text(), "3");
-  EXPECT_EQ(desk.screens.damSurface.txtCrestWidth.text(), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Tables, TooManyRows,
-    testing::Values(FaultCase{"structure", "STRUCTURE", "                    1000", 50, "STRUCTURE"},
-                    FaultCase{"crest", "CRESTPRFL", "          0         1", 101, "CRESTPRFL"},
-                    FaultCase{"tailwater", "TAILWATER", "          0         1", 50, "TAILWATER"},
-                    FaultCase{"rating", "ASRATING  1", "          0         10", 50, "ASRATING"},
-                    FaultCase{"reaches", "ASSURFACE 1", "          0", 100, "ASSURFACE"},
-                    FaultCase{"constantSteps", "HYDROGRAPHt", "                    1         2         3         4         5", 1000, "HYD"},
-                    FaultCase{"variableSteps", "HYD       t         1         0         0V", "          0         1", 5000, "HYD"},
-                    FaultCase{"sectionTemplate", "TEMPLATE", "          1", 101, "TEMPLATE"}),
-    caseName<FaultCase>);
+INSTANTIATE_TEST_SUITE_P(HydrographsAndSpillways, MainRunRead,
+                         testing::Values(ReadCase{"constantSteps",
+                                                  {"HYD       Big storm 0.25      1         1C        ", "ENDTABLE"},
+                                                  {{"frmHydrographData.txtTitle", "Big storm"},
+                                                   {"frmHydrographData.optConst", "on"},
+                                                   {"frmHydrographData.txtConst", "0.25"},
+                                                   {"frmHydrographData.txtDesired", ""},
+                                                   {"frmHydrographData.txtStartTime", "1"},
+                                                   {"frmHydrographData.chkAdjustTimeIncrement", "on"}}},
+                                         ReadCase{"variableSteps",
+                                                  {"HYDROGRAPHBig storm 0.25      1         0V        ", "ENDTABLE"},
+                                                  {{"frmHydrographData.optVariable", "on"},
+                                                   {"frmHydrographData.txtConst", ""},
+                                                   {"frmHydrographData.txtDesired", "0.25"},
+                                                   {"frmHydrographData.chkAdjustTimeIncrement", "off"}}},
+                                         ReadCase{"aShortLineHasConstantSteps",
+                                                  {"HYD       1"},
+                                                  {{"frmHydrographData.optConst", "on"},
+                                                   {"frmHydrographData.txtTitle", "1"},
+                                                   {"frmHydrographData.chkAdjustTimeIncrement", "off"}}},
+                                         ReadCase{"theHighestNumberIsTheCount",
+                                                  {"ASSURFACE 3Far      3"},
+                                                  {{"frmAuxSpillways.cmbAuxSpillways", "3"},
+                                                   {"frmAuxSpillways.txtsway(2)", "Far"},
+                                                   {"frmAuxSpillways.txtsway(0)", ""},
+                                                   {"frmAuxSpillways.optProfile(0)", "on"},
+                                                   {"frmAuxSpillways.optNone(2)", "on"}}},
+                                         ReadCase{"anotherNumberIsTheFirst",
+                                                  {"ASRATING  9Way"},
+                                                  {{"frmAuxSpillways.cmbAuxSpillways", "1"},
+                                                   {"frmAuxSpillways.txtsway(0)", "Way"},
+                                                   {"frmAuxSpillways.optRating(0)", "on"}}},
+                                         ReadCase{"analysesOfTheSpillways",
+                                                  {"ASSURFACE 1One      3         50       1", "ENDTABLE",
+                                                   "ASSURFACE 2Two      3         50       2", "ENDTABLE",
+                                                   "ASRATING  3Three    1"},
+                                                  {{"frmAuxSpillways.optQUIL(0)", "on"},
+                                                   {"frmAuxSpillways.optStability(1)", "on"},
+                                                   {"frmAuxSpillways.optRating(2)", "on"},
+                                                   {"frmAuxSpillways.optQUIL(2)", "on"}}}),
+                         caseName<ReadCase>);
 
 }  // namespace
 }  // namespace kestra

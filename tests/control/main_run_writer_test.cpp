@@ -125,66 +125,65 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Options, MainRunLines,
-    testing::Values(
-        LineCase{"breachAndSpillway", [](InputScreenSet&) {}, "OPTION", {"OPTION    SIMPLE    EARTH     "}},
-        LineCase{"breachAndNoSpillway",
-                 [](InputScreenSet& s) {
-                   choose(s.psType.optNone);
-                   choose(s.projectInformation.optUser);
-                   choose(s.projectInformation.optRipRap);
-                 },
-                 "OPTION",
-                 {"OPTION    COEFF     RIPRAP    NOPS      "}},
-        LineCase{"noBreachAndSpillway",
-                 [](InputScreenSet& s) {
-                   choose(s.projectInformation.optNoBreachAnalysis);
-                   choose(s.projectInformation.optBare);
-                 },
-                 "OPTION",
-                 {"OPTION    SIMPLE    BARESOIL            NOBREACH"}},
-        LineCase{"noBreachAndNoSpillway",
-                 [](InputScreenSet& s) {
-                   choose(s.projectInformation.optNoBreachAnalysis);
-                   choose(s.psType.optNone);
-                 },
-                 "OPTION",
-                 {"OPTION    SIMPLE    EARTH     NOPS      NOBREACH"}},
-        LineCase{"drawdownWithSpillway",
-                 [](InputScreenSet& s) {
-                   choose(s.projectInformation.optNoBreachAnalysis);
-                   s.hydrographData.chk10daydrawdown.setChecked(true);
-                   s.hydrographData.txtDrawdownElevation.setText("85");
-                 },
-                 "OPTION",
-                 {"OPTION    SIMPLE    EARTH               DRAWDOWN  85        PERCENT   240"}},
-        LineCase{"drawdownWithSpillwayStandsWithBreachAsWell",
-                 [](InputScreenSet& s) {
-                   s.hydrographData.chk10daydrawdown.setChecked(true);
-                   s.hydrographData.txtDrawdownElevation.setText("1010.5");
-                   choose(s.hydrographData.optFeet);
-                   s.hydrographData.txtDrawdownTime.setText("12345678901");
-                 },
-                 "OPTION",
-                 {"OPTION    SIMPLE    EARTH               DRAWDOWN  1010.5    FEET      12345678901"}},
-        LineCase{"drawdownWithoutSpillway",
-                 [](InputScreenSet& s) {
-                   choose(s.projectInformation.optNoBreachAnalysis);
-                   choose(s.psType.optNone);
-                   s.hydrographData.chk10daydrawdown.setChecked(true);
-                 },
-                 "OPTION",
-                 {"OPTION    SIMPLE    EARTH     NOPS      DRAWDOWN            PERCENT   240"}},
-        LineCase{"drawdownWithoutSpillwayUnderBreachIsNotWritten",
-                 [](InputScreenSet& s) {
-                   choose(s.psType.optNone);
-                   s.hydrographData.chk10daydrawdown.setChecked(true);
-                 },
-                 "OPTION",
-                 {"OPTION    SIMPLE    EARTH     NOPS      "}},
-        LineCase{"neitherModelIsDetailed",
-                 [](InputScreenSet& s) { s.projectInformation.optSimple.setSelected(false); },
-                 "OPTION",
-                 {"OPTION    DETAILED  EARTH     "}}),
+    testing::Values(LineCase{"breachAndSpillway", [](InputScreenSet&) {}, "OPTION", {"OPTION    SIMPLE    EARTH     "}},
+                    LineCase{"breachAndNoSpillway",
+                             [](InputScreenSet& s) {
+                               choose(s.psType.optNone);
+                               choose(s.projectInformation.optUser);
+                               choose(s.projectInformation.optRipRap);
+                             },
+                             "OPTION",
+                             {"OPTION    COEFF     RIPRAP    NOPS      "}},
+                    LineCase{"noBreachAndSpillway",
+                             [](InputScreenSet& s) {
+                               choose(s.projectInformation.optNoBreachAnalysis);
+                               choose(s.projectInformation.optBare);
+                             },
+                             "OPTION",
+                             {"OPTION    SIMPLE    BARESOIL            NOBREACH"}},
+                    LineCase{"noBreachAndNoSpillway",
+                             [](InputScreenSet& s) {
+                               choose(s.projectInformation.optNoBreachAnalysis);
+                               choose(s.psType.optNone);
+                             },
+                             "OPTION",
+                             {"OPTION    SIMPLE    EARTH     NOPS      NOBREACH"}},
+                    LineCase{"drawdownWithSpillway",
+                             [](InputScreenSet& s) {
+                               choose(s.projectInformation.optNoBreachAnalysis);
+                               s.hydrographData.chk10daydrawdown.setChecked(true);
+                               s.hydrographData.txtDrawdownElevation.setText("85");
+                             },
+                             "OPTION",
+                             {"OPTION    SIMPLE    EARTH               DRAWDOWN  85        PERCENT   240"}},
+                    LineCase{"drawdownWithSpillwayStandsWithBreachAsWell",
+                             [](InputScreenSet& s) {
+                               s.hydrographData.chk10daydrawdown.setChecked(true);
+                               s.hydrographData.txtDrawdownElevation.setText("1010.5");
+                               choose(s.hydrographData.optFeet);
+                               s.hydrographData.txtDrawdownTime.setText("12345678901");
+                             },
+                             "OPTION",
+                             {"OPTION    SIMPLE    EARTH               DRAWDOWN  1010.5    FEET      12345678901"}},
+                    LineCase{"drawdownWithoutSpillway",
+                             [](InputScreenSet& s) {
+                               choose(s.projectInformation.optNoBreachAnalysis);
+                               choose(s.psType.optNone);
+                               s.hydrographData.chk10daydrawdown.setChecked(true);
+                             },
+                             "OPTION",
+                             {"OPTION    SIMPLE    EARTH     NOPS      DRAWDOWN            PERCENT   240"}},
+                    LineCase{"drawdownWithoutSpillwayUnderBreachIsNotWritten",
+                             [](InputScreenSet& s) {
+                               choose(s.psType.optNone);
+                               s.hydrographData.chk10daydrawdown.setChecked(true);
+                             },
+                             "OPTION",
+                             {"OPTION    SIMPLE    EARTH     NOPS      "}},
+                    LineCase{"neitherModelIsDetailed",
+                             [](InputScreenSet& s) { s.projectInformation.optSimple.setSelected(false); },
+                             "OPTION",
+                             {"OPTION    DETAILED  EARTH     "}}),
     caseName<LineCase>);
 
 void fillProperties(InputScreenSet& s) {
@@ -197,61 +196,60 @@ void fillProperties(InputScreenSet& s) {
 
 INSTANTIATE_TEST_SUITE_P(
     Dam, MainRunLines,
-    testing::Values(
-        LineCase{"headcutModel1",
-                 fillProperties,
-                 "HCMODEL",
-                 {"HCMODEL   1                   0.8                 0.05      0.04"}},
-        LineCase{"headcutModel2",
-                 [](InputScreenSet& s) {
-                   fillProperties(s);
-                   choose(s.properties.optHcModel(2));
-                 },
-                 "HCMODEL",
-                 {"HCMODEL   2         115       0.8       700       0.05"}},
-        LineCase{"noHeadcutModelWithoutBreach",
-                 [](InputScreenSet& s) { choose(s.projectInformation.optNoBreachAnalysis); },
-                 "HCMODEL",
-                 {}},
-        LineCase{"routingFromAnElevation",
-                 [](InputScreenSet& s) {
-                   s.structureTable.txtStartRouting.setText("1012");
-                   s.structureTable.txtValleyFloor.setText("1000");
-                 },
-                 "STROUTE",
-                 {"STROUTE   1012      1000      FEET"}},
-        LineCase{"routingFromADischarge",
-                 [](InputScreenSet& s) { choose(s.structureTable.optCFS); },
-                 "STROUTE",
-                 {"STROUTE                       CFS"}},
-        LineCase{"upstream", fillDamSurface, "UPSTREAM", {"UPSTREAM  3         5.6"}},
-        LineCase{"crest", fillDamSurface, "DAMCREST", {"DAMCREST  12        5.5       2.65      "}},
-        LineCase{"downstreamOfEarth",
-                 fillDamSurface,
-                 "DWNSTREAM",
-                 {"DWNSTREAM 2.5       0.03      0.7       1         12        0.002"}},
-        LineCase{"downstreamOfRiprap",
-                 [](InputScreenSet& s) {
-                   fillDamSurface(s);
-                   choose(s.projectInformation.optRipRap);
-                 },
-                 "DWNSTREAM",
-                 {"DWNSTREAM 2.5       1.8       0.5       1.5       0.4       "}},
-        LineCase{"downstreamOfBareSoilThatBreaches",
-                 [](InputScreenSet& s) {
-                   fillDamSurface(s);
-                   choose(s.projectInformation.optBare);
-                 },
-                 "DWNSTREAM",
-                 {"DWNSTREAM 2.5       0.03"}},
-        LineCase{"downstreamOfBareSoilThatDoesNotBreach",
-                 [](InputScreenSet& s) {
-                   fillDamSurface(s);
-                   choose(s.projectInformation.optBare);
-                   choose(s.projectInformation.optNoBreachAnalysis);
-                 },
-                 "DWNSTREAM",
-                 {"DWNSTREAM 2.5       0.03      "}}),
+    testing::Values(LineCase{"headcutModel1",
+                             fillProperties,
+                             "HCMODEL",
+                             {"HCMODEL   1                   0.8                 0.05      0.04"}},
+                    LineCase{"headcutModel2",
+                             [](InputScreenSet& s) {
+                               fillProperties(s);
+                               choose(s.properties.optHcModel(2));
+                             },
+                             "HCMODEL",
+                             {"HCMODEL   2         115       0.8       700       0.05"}},
+                    LineCase{"noHeadcutModelWithoutBreach",
+                             [](InputScreenSet& s) { choose(s.projectInformation.optNoBreachAnalysis); },
+                             "HCMODEL",
+                             {}},
+                    LineCase{"routingFromAnElevation",
+                             [](InputScreenSet& s) {
+                               s.structureTable.txtStartRouting.setText("1012");
+                               s.structureTable.txtValleyFloor.setText("1000");
+                             },
+                             "STROUTE",
+                             {"STROUTE   1012      1000      FEET"}},
+                    LineCase{"routingFromADischarge",
+                             [](InputScreenSet& s) { choose(s.structureTable.optCFS); },
+                             "STROUTE",
+                             {"STROUTE                       CFS"}},
+                    LineCase{"upstream", fillDamSurface, "UPSTREAM", {"UPSTREAM  3         5.6"}},
+                    LineCase{"crest", fillDamSurface, "DAMCREST", {"DAMCREST  12        5.5       2.65      "}},
+                    LineCase{"downstreamOfEarth",
+                             fillDamSurface,
+                             "DWNSTREAM",
+                             {"DWNSTREAM 2.5       0.03      0.7       1         12        0.002"}},
+                    LineCase{"downstreamOfRiprap",
+                             [](InputScreenSet& s) {
+                               fillDamSurface(s);
+                               choose(s.projectInformation.optRipRap);
+                             },
+                             "DWNSTREAM",
+                             {"DWNSTREAM 2.5       1.8       0.5       1.5       0.4       "}},
+                    LineCase{"downstreamOfBareSoilThatBreaches",
+                             [](InputScreenSet& s) {
+                               fillDamSurface(s);
+                               choose(s.projectInformation.optBare);
+                             },
+                             "DWNSTREAM",
+                             {"DWNSTREAM 2.5       0.03"}},
+                    LineCase{"downstreamOfBareSoilThatDoesNotBreach",
+                             [](InputScreenSet& s) {
+                               fillDamSurface(s);
+                               choose(s.projectInformation.optBare);
+                               choose(s.projectInformation.optNoBreachAnalysis);
+                             },
+                             "DWNSTREAM",
+                             {"DWNSTREAM 2.5       0.03      "}}),
     caseName<LineCase>);
 
 constexpr const char* kCoefficients = "PSpCOEFFS 0.61      3.14      3.05      0.62      3.1       6         ";
@@ -306,179 +304,6 @@ INSTANTIATE_TEST_SUITE_P(
                  "PSp",
                  {}}),
     caseName<LineCase>);
-
-struct RowsCase {
-  const char* name;
-  std::function<void(InputScreenSet&)> enter;
-  const char* keyword;
-  Lines rows;
-};
-
-void PrintTo(const RowsCase& told, std::ostream* out) {
-  *out << told.name;
-}
-
-class MainRunRows : public testing::TestWithParam<RowsCase> {};
-
-TEST_P(MainRunRows, standAsTheScreensSay) {
-  ControlDesk desk;
-  GetParam().enter(desk.screens);
-  EXPECT_EQ(rowsOf(desk.build(), GetParam().keyword), GetParam().rows);
-}
-
-void setRow(Table& table, int row, int column, std::initializer_list<const char*> texts) {
-  for (const char* text : texts) table.setCell(row, column++, text);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Tables, MainRunRows,
-    testing::Values(
-        RowsCase{"anEmptyStructure", [](InputScreenSet&) {}, "STRUCTURE", {}},
-        RowsCase{"aStructureUpToItsFirstBlankElevation",
-                 [](InputScreenSet& s) {
-                   setRow(s.structureTable.grdTable, 1, 1, {" 1000 ", "", "0", "0.5"});
-                   setRow(s.structureTable.grdTable, 2, 1, {"1005", "7", "", ""});
-                   setRow(s.structureTable.grdTable, 4, 1, {"1010", "9", "", ""});
-                 },
-                 "STRUCTURE",
-                 {"                    1000                0         0.5       ",
-                  "                    1005      7                             "}},
-        RowsCase{"aCrestUpToItsFirstBlankCell",
-                 [](InputScreenSet& s) {
-                   setRow(s.damSurface.grdTable, 1, 1, {"0", " 120", "240", "360"});
-                   setRow(s.damSurface.grdTable, 2, 1, {"1026", "1024", " ", "1026"});
-                 },
-                 "CRESTPRFL",
-                 {"          0         1026      ", "          120       1024      "}},
-        RowsCase{"aTailwaterUpToItsFirstBlankCell",
-                 [](InputScreenSet& s) {
-                   setRow(s.psRatingTable.grdTable, 1, 1, {"1000", "0"});
-                   setRow(s.psRatingTable.grdTable, 2, 1, {"", "10"});
-                   setRow(s.psRatingTable.grdTable, 3, 1, {"1002", "20"});
-                 },
-                 "TAILWATER",
-                 {"          1000      0         "}}),
-    caseName<RowsCase>);
-
-INSTANTIATE_TEST_SUITE_P(
-    Hydrographs, MainRunRows,
-    testing::Values(
-        RowsCase{"discharges",
-                 [](InputScreenSet& s) {
-                   int row = 1;
-                   for (const char* flow : {"0", "123456.789", "1234567.1", "", "4", "5"}) {
-                     s.hydrographData.grdTable.setCell(row++, 1, flow);
-                   }
-                 },
-                 "HYD",
-                 {"                    0         123456.78 1234567             4         ",
-                  "                    5                                                 "}},
-        RowsCase{"aLineThatBeginsBlankEndsThem",
-                 [](InputScreenSet& s) {
-                   s.hydrographData.grdTable.setCell(1, 1, "1");
-                   s.hydrographData.grdTable.setCell(7, 1, "2");
-                 },
-                 "HYD",
-                 {"                    1                                                 "}},
-        RowsCase{"timesAndDischarges",
-                 [](InputScreenSet& s) {
-                   choose(s.hydrographData.optVariable);
-                   setRow(s.hydrographData.varTable, 1, 0, {"0", "5"});
-                   setRow(s.hydrographData.varTable, 2, 0, {" 0.5", "12345678901"});
-                   setRow(s.hydrographData.varTable, 3, 0, {"1", " "});
-                   setRow(s.hydrographData.varTable, 4, 0, {"2", "7"});
-                 },
-                 "HYD",
-                 {"          0         5         ", "           0.5      1234567890"}}),
-    caseName<RowsCase>);
-
-TEST(HydrographText, endsInEndTableWithoutALineEnd) {
-  ControlDesk desk;
-  desk.screens.hydrographData.txtTitle.setText("Probable maximum flood");
-  desk.screens.hydrographData.txtConst.setText("0.25");
-  desk.screens.hydrographData.txtStartTime.setText("1");
-  desk.screens.hydrographData.chkAdjustTimeIncrement.setChecked(true);
-  desk.control.BuildHydrographText();
-  EXPECT_EQ(desk.control.texts.hydrographText,
-            "HYD       Probable m0.25      1         1C        \r\nENDTABLE");
-  desk.screens.hydrographData.txtDesired.setText("0.5");
-  choose(desk.screens.hydrographData.optVariable);
-  desk.screens.hydrographData.chkAdjustTimeIncrement.setChecked(false);
-  desk.control.BuildHydrographText();
-  EXPECT_EQ(desk.control.texts.hydrographText,
-            "HYD       Probable m0.5       1         0V        \r\nENDTABLE");
-}
-
-TEST(HydrographText, holdsAllPointsOfAFullTableAtConstantSteps) {
-  ControlDesk desk;
-  for (int row = 1; row <= 5000; ++row) desk.screens.hydrographData.grdTable.setCell(row, 1, std::to_string(row));
-  const Lines rows = rowsOf(desk.build(), "HYD");
-  ASSERT_EQ(rows.size(), 1000U);
-  EXPECT_EQ(rows.back(), "                    4996      4997      4998      4999      5000      ");
-}
-
-TEST(HydrographText, holdsThe4996FirstPointsOfATableWithTimes) {
-  ControlDesk desk;
-  choose(desk.screens.hydrographData.optVariable);
-  for (int row = 1; row <= 5000; ++row) {
-    setRow(desk.screens.hydrographData.varTable, row, 0, {std::to_string(row).c_str(), "1"});
-  }
-  const Lines rows = rowsOf(desk.build(), "HYD");
-  ASSERT_EQ(rows.size(), 4996U);
-  EXPECT_EQ(rows.back(), "          4996      1         ");
-}
-
-TEST(MainRun, goesFromTailwaterToOutputWithoutAuxiliarySpillways) {
-  ControlDesk desk;
-  const Lines lines = linesOf(desk.build());
-  const Lines last(lines.end() - 4, lines.end());
-  EXPECT_EQ(last, (Lines{"TAILWATER", "ENDTABLE", "OUTPUT    ALL", "ENDRUN"}));
-}
-
-TEST(MainRun, goesFromTheOptionsToTheModelWithoutAComment) {
-  ControlDesk desk;
-  const Lines lines = linesOf(desk.build());
-  EXPECT_EQ(lines[1], "OPTION    SIMPLE    EARTH     ");
-  EXPECT_TRUE(lines[2].starts_with("HCMODEL"));
-}
-
-TEST(MainRun, hasTheRecordsOfEachAuxiliarySpillwayInUse) {
-  ControlDesk desk;
-  frmAuxSpillways& spillways = desk.screens.auxSpillways;
-  desk.state.numAuxSpillways = 3;
-  for (int i = 0; i < 3; ++i) spillways.txtsway(i).setText("Way " + std::to_string(i + 1) + " of three");
-  choose(spillways.optRating(1));
-  choose(spillways.optStability(2));
-  for (const int i : {0, 2}) {
-    AuxProfile& profile = desk.profile(i);
-    profile.txtSide = "3";
-    profile.txtBottom = "1234567890";
-    profile.txtTopsoil = "0.5";
-    profile.txtEnd = "500";
-    profile.reaches[0] = {"0", "100", " 5.6", "0.8", "1", "2"};
-    profile.reaches[2] = {"100", "200", "5.6", "0.8", "1", ""};
-    profile.reaches[3] = {"", "300", "5.6", "", "", ""};
-    profile.reaches[99] = {"400", "", "", "", "", "3"};
-  }
-  setRow(desk.screens.auxRatingTable.grdTable(1), 1, 1, {"1020", "0"});
-  setRow(desk.screens.auxRatingTable.grdTable(1), 2, 1, {"1021", ""});
-  setRow(desk.screens.auxRatingTable.grdTable(1), 50, 1, {" 1022", "95 "});
-  const std::string text = desk.build();
-  const std::string surface = text.substr(text.find("ASSURFACE"));
-  EXPECT_EQ(surface, fileOf({"ASSURFACE 1Way 1 of 3         1234567890"
-                             "0.5       500",
-                             "          0         100       5.6       0.8       1         2         ",
-                             "          100       200       5.6       0.8       1                   ",
-                             "          400                                               3         ", "ENDTABLE",
-                             "ASRATING  2Way 2 of 0", "          1020      0         ",
-                             "          1022      95        ", "ENDTABLE",
-                             "ASSURFACE 3Way 3 of 3         1234567892"
-                             "0.5       500",
-                             "          0         100       5.6       0.8       1                   ",
-                             "          100       200       5.6       0.8       1                   ",
-                             "          400                                                         ", "ENDTABLE",
-                             "OUTPUT    ALL", "ENDRUN"}));
-}
 
 }  // namespace
 }  // namespace kestra

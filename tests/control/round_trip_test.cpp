@@ -84,7 +84,7 @@ TEST_P(EveryRecord, comesBackWithTheValuesOfItsRows) {
   const RecordLayout& record = *GetParam();
   if (!record.table) return;
   for (std::size_t start = 0; start < std::size(kAwkward); ++start) {
-    const Texts values = valuesFrom(start, record.table->fields.size());
+    const Texts values = valuesFrom(start, takersOf(record.table->fields));
     const std::string line = composeRow(record, values);
     EXPECT_EQ(keywordOf(line), "");
     expectFields(record.table->fields, values, takeApartRow(record, line), line);

@@ -60,8 +60,8 @@ TEST(ReadSpillwayRun, readsMaterialsWithTheirBoundaries) {
   desk.readIntegrity({"ASMATERIAL", "          1         10        0.002     30        120       0.05",
                       "          2         PDF       0.1       -0.4      110       PDF", "ENDTABLE",
                       "ASCOORD   1         Shale     N         450       2.5       Y",
-                      "          0         1010      100       1008      200       990",
-                      "          300       980", "ENDTABLE", "ASCOORD   2         Sandstone"});
+                      "          0         1010      100       1008      200       990", "          300       980",
+                      "ENDTABLE", "ASCOORD   2         Sandstone"});
   const AuxMaterials& materials = desk.materials();
   ASSERT_EQ(materials.count, 2);
   EXPECT_EQ(materials.material(1).values, (std::array<std::string, 6>{"10", "0.002", "30", "", "120", "0.05"}));
@@ -91,10 +91,10 @@ TEST(ReadSpillwayRun, takesThePlaceOfTheMaterialsThatWereThere) {
 
 struct FillCase {
   const char* name;
-  const char* fills;             // behind ASMATERIAL
-  std::vector<int> rows;         // numbers of the rows
-  int boundaries;                // count of ASCOORD records
-  int count;                     // of the materials that come of it
+  const char* fills;      // behind ASMATERIAL
+  std::vector<int> rows;  // numbers of the rows
+  int boundaries;         // count of ASCOORD records
+  int count;              // of the materials that come of it
   std::array<FillChoice, 2> fill;
 };
 
@@ -107,7 +107,8 @@ class FillsOfARun : public testing::TestWithParam<FillCase> {};
 TEST_P(FillsOfARun, areToldByTheirNumbers) {
   const FillCase& given = GetParam();
   Lines lines = {std::string("ASMATERIAL") + given.fills};
-  for (const int number : given.rows) lines.push_back("          " + std::to_string(number) + "         of" + std::to_string(number));
+  for (const int number : given.rows)
+    lines.push_back("          " + std::to_string(number) + "         of" + std::to_string(number));
   lines.push_back("ENDTABLE");
   for (int number = 1; number <= given.boundaries; ++number) {
     lines.push_back("ASCOORD   " + std::to_string(number));
@@ -118,7 +119,8 @@ TEST_P(FillsOfARun, areToldByTheirNumbers) {
   EXPECT_EQ(desk.materials().count, given.count);
   EXPECT_EQ(desk.profile().fill, given.fill);
   for (const int number : given.rows) {
-    EXPECT_EQ(desk.materials().material(number).value(MaterialProperty::plasticityIndex), "of" + std::to_string(number));
+    EXPECT_EQ(desk.materials().material(number).value(MaterialProperty::plasticityIndex),
+              "of" + std::to_string(number));
   }
 }
 
@@ -155,8 +157,9 @@ TEST(ReadSpillwayRun, readsTheThresholdEquations) {
   const frmHeadcut& headcut = desk.screens.headcut;
   EXPECT_TRUE(headcut.optORLEN.selected());
   EXPECT_TRUE(headcut.optLogLog.selected());
-  EXPECT_EQ(headcut.txta1.text() + headcut.txtb1.text() + headcut.txta2.text() + headcut.txtb2.text() + headcut.txtc2.text(),
-            "12345");
+  EXPECT_EQ(
+      headcut.txta1.text() + headcut.txtb1.text() + headcut.txta2.text() + headcut.txtb2.text() + headcut.txtc2.text(),
+      "12345");
   desk.read({"ORLEN     1         2         3         4         5         0"});
   EXPECT_TRUE(headcut.optSemiLog.selected());
 }
@@ -214,10 +217,13 @@ INSTANTIATE_TEST_SUITE_P(
                    {"LHS       5         7", "                    1         normal"},
                    {"Warning: 'normal' given for data generation for Probalbity distribution not recognized\r\n"
                     "Using default value for distribution for Hydrograph Data "}},
-        SampleCase{"anUnknownProperty",
-                   {"LHS       5         7", "          1         7         Normal", "                    3         Normal"},
-                   {"Warning: Property Index 7 for material 1 not recognized\r\nProperty Index 3 not recognized"}},
-        SampleCase{"anUnknownMaterial", {"LHS       5         7", "          4         1         Normal"}, {"Warning: Material 4 not recognized"}},
+        SampleCase{
+            "anUnknownProperty",
+            {"LHS       5         7", "          1         7         Normal", "                    3         Normal"},
+            {"Warning: Property Index 7 for material 1 not recognized\r\nProperty Index 3 not recognized"}},
+        SampleCase{"anUnknownMaterial",
+                   {"LHS       5         7", "          4         1         Normal"},
+                   {"Warning: Material 4 not recognized"}},
         SampleCase{"aRowThatIsNone",
                    {"LHS       5         7", "          one       1         Normal", kSampleRow},
                    {"Error: Invalid File Format with improper Probability Distribution Information"}},
@@ -256,7 +262,8 @@ INSTANTIATE_TEST_SUITE_P(Tables, TooManyRowsOfARun,
                                          FaultCase{"reaches", "ASSURFACE 41", "          1", 100, "ASSURFACE"},
                                          FaultCase{"materials", "ASMATERIAL", "          1", 102, "ASMATERIAL"},
                                          FaultCase{"boundary", "ASCOORD   1", "          1         2", 34, "ASCOORD"},
-                                         FaultCase{"samples", "LHS       1         1", "          1         1         Normal", 614, "LHS"}),
+                                         FaultCase{"samples", "LHS       1         1",
+                                                   "          1         1         Normal", 614, "LHS"}),
                          caseName<FaultCase>);
 
 TEST(ReadSpillwayRun, isAFaultForASpillwayThatThereIsNot) {

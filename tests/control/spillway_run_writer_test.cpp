@@ -196,8 +196,11 @@ TEST(SpillwayRun, endsABoundaryAtItsFirstBlankStation) {
 TEST(SpillwayRun, holdsTheThresholdEquationsOfTheirForm) {
   SpillwayDesk desk;
   frmHeadcut& headcut = desk.screens.headcut;
-  const std::pair<TextBox*, const char*> texts[] = {
-      {&headcut.txta1, "1"}, {&headcut.txtb1, "2"}, {&headcut.txta2, "3"}, {&headcut.txtb2, "4"}, {&headcut.txtc2, "5"}};
+  const std::pair<TextBox*, const char*> texts[] = {{&headcut.txta1, "1"},
+                                                    {&headcut.txtb1, "2"},
+                                                    {&headcut.txta2, "3"},
+                                                    {&headcut.txtb2, "4"},
+                                                    {&headcut.txtc2, "5"}};
   for (const auto& [box, text] : texts) box->setText(text);
   EXPECT_TRUE(linesWith(desk.run(), "ORLEN").empty());
   headcut.optORLEN.setSelected(true);
@@ -227,12 +230,13 @@ TEST(SpillwayRun, holdsASamplingBlockWhereAPropertyIsDrawn) {
   desk.materials().material(3).distribution(MaterialProperty::plasticityIndex) = {"Poisson", {"8", "", "", ""}, true};
   desk.materials().material(4).distribution(MaterialProperty::plasticityIndex) = {"Poisson", {"9", "", "", ""}, true};
   const std::string run = desk.run();
-  EXPECT_EQ(run.substr(run.find("LHS")),
-            fileOf({"LHS       50        7         1         0         ",
-                    "                    2         Normal                        24        3                             ",
-                    "          2         6         Truncated Lognormal-N         1         2         0.1       0.9       ",
-                    "          3         1         Poisson                       8                                       ",
-                    "ENDTABLE", "ENDJOB", "ENDRUN"}));
+  EXPECT_EQ(
+      run.substr(run.find("LHS")),
+      fileOf({"LHS       50        7         1         0         ",
+              "                    2         Normal                        24        3                             ",
+              "          2         6         Truncated Lognormal-N         1         2         0.1       0.9       ",
+              "          3         1         Poisson                       8                                       ",
+              "ENDTABLE", "ENDJOB", "ENDRUN"}));
 }
 
 TEST(BuildAuxRunText, beginsAnewAndWriteSpillwayRunAppends) {

@@ -168,6 +168,7 @@ TEST(RouteDam, staysAtTheFloorOfAReservoirThatRunsDry) {
   const RoutingResult result = routeDam(dam);
   EXPECT_TRUE(result.ranDry);
   EXPECT_EQ(result.rows.back().pool, 0);
+  EXPECT_NEAR(result.rows.back().flows.total(), 10, 1e-9);
 }
 
 TEST(RouteDam, givesTheSameTwice) {

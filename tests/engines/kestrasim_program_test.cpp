@@ -65,15 +65,36 @@ TEST(KestraSim, failsWithoutItsInput) {
   EXPECT_EQ(outcome.errors, "KestraSim: /mill.KSC: No such file or directory\n");
 }
 
+TEST(KestraSim, tellsWhatHalfStepsChangeWhenAsked) {
+  MemoryFileSystem files;
+  files.put("/mill.KSC", breachText().text());
+  EXPECT_EQ(run({"--check-steps", "/mill.KSC"}, files).code, 0);
+  const std::string report = files.content("/mill.OUT").value();
+  EXPECT_NE(report.find("\r\nHalf the steps change the highest pool by"), std::string::npos);
+  EXPECT_EQ(report.find("change the peaks"), std::string::npos);
+}
+
+TEST(KestraSim, failsWhenItsReportCannotBeWritten) {
+  MemoryFileSystem memory;
+  memory.put("/mill.KSC", DamText().text());
+  FaultyFileSystem files(memory);
+  files.failEvery("write", FailureKind::full);
+  const Outcome outcome = run({"/mill.KSC"}, files);
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_TRUE(outcome.errors.starts_with("KestraSim: /"));
+  EXPECT_FALSE(memory.content("/mill.OUT"));
+}
+
 TEST(KestraSim, tellsHowItIsUsed) {
   MemoryFileSystem files;
   EXPECT_EQ(run({}, files).code, 2);
   EXPECT_EQ(run({"a", "b"}, files).code, 2);
-  EXPECT_EQ(
-      run({"--help"}, files).output,
-      "usage: KestraSim.exe FILE\n"
-      "Routes the flood of a control file through its reservoir and over its dam. Writes FILE's stem with .OUT, and "
-      "with\n.BRE and .HCT when a breach is asked for.\n");
+  EXPECT_EQ(run({"--help"}, files).output,
+            "usage: KestraSim.exe [--check-steps] FILE\n"
+            "Routes the flood of a control file through its reservoir and over its dam. Writes the stem of FILE with "
+            ".OUT, and\n"
+            "with .BRE and .HCT when a breach is asked for.\n"
+            "  --check-steps  routes once more by half steps and tells what that changes\n");
   EXPECT_EQ(run({"--version"}, files).code, 0);
 }
 

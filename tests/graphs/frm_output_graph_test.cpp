@@ -201,7 +201,7 @@ TEST_F(TheGraphScreen, printsTheShownGraph) {
   two.copies = 2;
   dialogs.prints = {two};
   screen.mnuPrint.click();
-  EXPECT_EQ(printer.printed, "form 2, 688x440: Hydrographs 0 100 200 300 400 500 600 700 8, copies 2");
+  EXPECT_EQ(printer.printed, "form 2, 688x440, 1: Hydrographs 0 100 20, copies 2");
   EXPECT_EQ(takeBoxes(), Lines{});
 }
 
@@ -238,7 +238,7 @@ TEST_F(TheGraphScreen, copiesItsPictureToTheClipboard) {
   clipboard.setText("text");
   draw(3);
   screen.mnuCopyToClipboard.click();
-  EXPECT_TRUE(clipboard.picture().starts_with("form 3, 688x440: Dam Crest Profile"));
+  EXPECT_TRUE(clipboard.picture().starts_with("form 3, 688x440, 1: Dam Crest Profile"));
   EXPECT_EQ(clipboard.text(), "");
   pictures.fails = true;
   screen.mnuCopyToClipboard.click();
@@ -252,7 +252,7 @@ TEST_F(TheGraphScreen, savesItsPictureAsABitmap) {
   screen.mnuSaveAs.click();
   EXPECT_EQ(files.content("/p/a.bmp"), std::nullopt);
   screen.mnuSaveAs.click();
-  EXPECT_TRUE(files.content("/p/a.bmp")->starts_with("form 3, 688x440: Dam Crest Profile"));
+  EXPECT_TRUE(files.content("/p/a.bmp")->starts_with("form 3, 688x440, 1: Dam Crest Profile"));
   EXPECT_EQ(dialogs.shownFiles[0].filter, "All Files (*.*)|*.*|Bitmap Files (*.bmp)|*.bmp");
   EXPECT_EQ(dialogs.shownFiles[0].filterIndex, 2);
 }
@@ -262,7 +262,7 @@ TEST_F(TheGraphScreen, takesThePictureOfTheFirstCanvasForGraphFourteen) {
   screen.mnuGraph(14).click();
   dialogs.files = {std::vector<std::string>{"/p/a.bmp"}};
   screen.mnuSaveAs.click();
-  EXPECT_TRUE(files.content("/p/a.bmp")->starts_with("form 3, 688x440: Hydrographs"));
+  EXPECT_TRUE(files.content("/p/a.bmp")->starts_with("form 3, 688x440, 1: Hydrographs"));
 }
 
 TEST_F(TheGraphScreen, leavesAnOldFileWhereAPictureCannotBeWritten) {

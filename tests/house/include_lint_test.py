@@ -222,6 +222,13 @@ class Includes(Tree):
         self.assertEqual(self.includes("--unbuilt", "desktop"), [])
         self.assertIn("src/desktop/window.cpp:1: no module lists this file", self.includes())
 
+    def test_a_header_of_a_folder_that_this_build_leaves_out_may_be_named(self):
+        self.write_report("".join(row for row in REPORT.splitlines(True) if not row.startswith("desktop")))
+        number = self.append("src/shell/shell.cpp", '#include "desktop/window.h"')
+        self.assertEqual(self.includes("--unbuilt", "desktop"), [])
+        self.assertIn(f'src/shell/shell.cpp:{number}: "desktop/window.h" is a header of no module', self.includes())
+        self.put("src/shell/shell.cpp", CLEAN["src/shell/shell.cpp"])
+
 
 class Bans(Tree):
     def test_a_clean_tree_has_no_findings(self):

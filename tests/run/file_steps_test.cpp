@@ -45,8 +45,9 @@ TEST(FileSteps, replaceAFileAndLeaveNoHalfOfOne) {
   EXPECT_EQ(faultOf([&] { writeText(desk.files, "/p/b", "new"); }), "/p/b: made to fail");
   EXPECT_FALSE(desk.has("/p/b"));
   desk.files.failNothing();
-  desk.files.failEvery("removeFile", FailureKind::denied);
+  desk.files.failEvery("rename", FailureKind::denied);
   EXPECT_EQ(faultOf([&] { writeText(desk.files, "/p/a", "newer"); }), "/p/a: made to fail");
+  desk.files.failEvery("removeFile", FailureKind::denied);
   EXPECT_EQ(faultOf([&] { removeFound(desk.files, "/p/A"); }), "/p/a: made to fail");
   EXPECT_EQ(desk.text("/p/a"), "new");
 }

@@ -58,6 +58,16 @@ TEST(DeleteOldRunFiles, looksForANameWithAnUnderscoreInTheFolderBeforeItsLast) {
   EXPECT_THAT(below(desk.memory, "/p"), ElementsAre("a", "a/a_b.OUT", "a_b", "a_b.OUT", "a_b/a_b_2.OUT", "a_b_1.OUT"));
 }
 
+TEST(DeleteOldRunFiles, deletesNothingForANameThatIsNoneOrLeadsOut) {
+  RunDesk desk;
+  for (const char* path : {"/p/SUMMARY.IDE", "/p/.hidden", "/q/dam.OUT", "/q.OUT"}) desk.memory.put(path, "x");
+  const auto before = desk.memory.paths();
+  for (const char* name : {"", ".", "..", "../q", "../q/dam", "_", "..._x/../../../q", "/"}) {
+    DeleteOldRunFiles(desk.files, "/p", name);
+    EXPECT_EQ(desk.memory.paths(), before) << name;
+  }
+}
+
 TEST(DeleteOldRunFiles, leavesWhatCannotBeDeletedWithoutAWord) {
   RunDesk desk;
   desk.memory.put("/p/dam.OUT", "x");

@@ -73,7 +73,7 @@ TEST_F(ProgramsTest, nameAMissingProgramAndWhereItWasLookedFor) {
   EXPECT_EQ(programs.run("KestraSim.exe", "/p/dam.KSC"), 0);
   const std::string message = "KestraSim.exe could not be started from /app: No such file or directory.";
   EXPECT_THAT(told, ElementsAre(message));
-  EXPECT_EQ(progress.lblWhat.caption(), message);
+  EXPECT_EQ(progress.lblTold.caption(), message);
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 

@@ -65,39 +65,50 @@ inline std::string damOutput(const std::vector<RoutingRow>& rows, const std::vec
   return text + lines({""});
 }
 
-// A project /p on files in memory, solvers in /app that do what a test sets, and a run over them.
-struct RunDesk {
-  MemoryFileSystem memory;
-  FaultyFileSystem files{memory};
+// A run, and the user at whose desk it goes on: his answers come from lists.
+struct RunFixture {
+  RunFixture(FileSystem& files, ProcessHost& processes, Clock& clock, const std::string& applicationDirectory)
+      : ports{boxes, dialogs, settings, clipboard, processes, files, events, beeper, entropy, clock, help},
+        programs(ports, state, progress, applicationDirectory) {
+    host.enter(progress);
+    programs.onTold = [this](const std::string& message) { told.push_back(message); };
+  }
+
   ScriptedMessageBoxes boxes;
   ScriptedDialogs dialogs;
   MemorySettings settings;
   MemoryClipboard clipboard;
-  ScriptedProcessHost processes;
   RecordingEventPump events;
   RecordingBeeper beeper;
   ScriptedEntropy entropy;
-  ScriptedClock clock;
   RecordingHelpViewer help;
-  Ports ports{boxes, dialogs, settings, clipboard, processes, files, events, beeper, entropy, clock, help};
+  Ports ports;
   ApplicationState state;
   ScreenHost host{state.bExiting};
   ScreenContext base{ports, state, host};
   frmProgress progress{base};
-  Programs programs{ports, state, progress, "/app"};
+  Programs programs;
   RecordingSummary summary;
   RunTables tables;
   RunContext context{ports, state, tables, progress, programs, summary};
   BuildPipeline pipeline{context, nullptr};
   std::vector<std::string> told;
+};
 
-  RunDesk() {
-    host.enter(progress);
+struct MemoryMachine {
+  MemoryFileSystem memory;
+  FaultyFileSystem files{memory};
+  ScriptedProcessHost processes;
+  ScriptedClock clock;
+};
+
+// A project /p on files in memory, solvers in /app that do what a test sets, and a run over them.
+struct RunDesk : MemoryMachine, RunFixture {
+  RunDesk() : RunFixture(files, processes, clock, "/app") {
     memory.putDirectory("/app");
     memory.putDirectory("/p");
     (void)memory.changeDirectory("/p");
     state.projectDir = "/p";
-    programs.onTold = [this](const std::string& message) { told.push_back(message); };
   }
 
   // The file that a program was started on, without its extension.

@@ -137,6 +137,15 @@ TEST_F(SpillwayCaseTest, doesNothingForAFileOutsideTheProject) {
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
+TEST_F(SpillwayCaseTest, removesNoDirectoryForAFileWithoutAName) {
+  memory.put("/p/dam/kept.DIS", "x");
+  for (const char* path : {"/p/.V2D", "/p/..V2D", "/p/dam/...V2D", "/p/dam", "/p/dam/"}) {
+    RunSpillwayInstance(context, path, 1);
+    EXPECT_TRUE(has("/p/dam/kept.DIS")) << path;
+  }
+  EXPECT_THAT(started(), IsEmpty());
+}
+
 TEST_F(SpillwayCaseTest, knowsTheProjectWhateverTheLettersOfItsName) {
   memory.put("/P/dam/dam1_0.V2D", instance({}));
   RunSpillwayInstance(context, " /P/dam/dam1_0.V2D ", 1);

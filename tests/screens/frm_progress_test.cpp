@@ -24,7 +24,7 @@ TEST_F(Progress, beginsInFrontWithAnEmptyGaugeAndAPicture) {
   EXPECT_EQ(screen.Gauge.minimum(), 0);
   EXPECT_EQ(screen.Gauge.maximum(), 8);
   EXPECT_EQ(screen.Gauge.value(), 0);
-  EXPECT_FALSE(screen.Picture1.calls().empty());
+  EXPECT_FALSE(screen.Picture1.log().calls().empty());
   EXPECT_EQ(screen.lblTime.caption(), "0:00");
 }
 

@@ -70,7 +70,7 @@ TEST_F(InputWindow, showsHelpAndDisclaimerAndAPicture) {
   EXPECT_EQ(desk.help.topics, std::vector<std::string>{""});
   desk.window.mnuDisclaimer.click();
   EXPECT_EQ(desk.front(), "frmDisclaimer");
-  EXPECT_FALSE(desk.window.Picture1.calls().empty());
+  EXPECT_FALSE(desk.window.Picture1.log().calls().empty());
 }
 
 TEST_F(InputWindow, hasNoCommandOnFilesWithoutAProject) {

@@ -26,7 +26,10 @@ struct ControlDesk : InputDesk {
   }
   // The screens as a program has them that opens its first file.
   void unload() {
-    for (Screen* screen : host.screens()) host.unload(*screen);
+    for (Screen* screen : screens.sequence()) {
+      host.load(*screen);  // what is not loaded is not unloaded, and keeps what a test has put in
+      host.unload(*screen);
+    }
     screens.context.aux.ClearAuxData();
     state.forgetInput();
   }

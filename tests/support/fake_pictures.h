@@ -8,16 +8,16 @@
 
 namespace kestra {
 
-// Pictures that tell what they are made of, and can be made to fail.
+// Pictures that tell what they are made of, "form 0, 800x600, 1 drawing: TEXT TEXT...", and can be made to fail.
 struct FakePictures : PictureMaker {
   Result<std::string> make(const std::vector<const CanvasLog*>& drawings, PictureForm form, PictureSize size) override {
     if (fails) return Failure{FailureKind::other, {}, "no colours left"};
     std::string text = "form " + std::to_string(static_cast<int>(form)) + ", " + std::to_string(size.width) + "x" +
-                       std::to_string(size.height) + ":";
+                       std::to_string(size.height) + ", " + std::to_string(drawings.size()) + ":";
     for (const CanvasCall& call : drawings.at(0)->calls()) {
       if (call.op == CanvasOp::Print) text += " " + drawings[0]->textOf(call);
     }
-    return text.substr(0, 60);
+    return text.substr(0, 40);
   }
   const TextMetrics& metrics(PictureSize) override { return fixed; }
 
