@@ -42,11 +42,12 @@ class TemporaryDirectory {
 void writeCell(lxw_worksheet* sheet, int row, int column, const std::string& text, lxw_format* format) {
   const auto r = static_cast<lxw_row_t>(row);
   const auto c = static_cast<lxw_col_t>(column);
+  constexpr std::size_t kMostCharacters = 32767;  // of a cell
   const auto number = realNumber(text);
   if (number && format == nullptr) {
     worksheet_write_number(sheet, r, c, *number, format);
   } else if (!text.empty()) {
-    worksheet_write_string(sheet, r, c, validText(charsFrom(text, 0, LXW_STR_MAX)).c_str(), format);
+    worksheet_write_string(sheet, r, c, validText(charsFrom(text, 0, kMostCharacters)).c_str(), format);
   }
 }
 

@@ -205,7 +205,7 @@ TEST(CommandLine, takesAProjectAndAFormForTheSummary) {
   ASSERT_TRUE(plain.options) << plain.err;
   EXPECT_EQ(plain.options->command, CliCommand::summary);
   EXPECT_EQ(plain.options->project, "");
-  EXPECT_EQ(plain.options->format, "");
+  EXPECT_EQ(plain.options->format, "text");
   EXPECT_FALSE(plain.options->all);
   for (const char* format : {"text", "csv", "json"}) {
     const Parsed given = parse({"summary", "--project", "p", "--format", format, "--all"});
