@@ -13,10 +13,8 @@ std::string RunKeeping::checkedDirectory(const std::string& path) {
   return kestra::checkedDirectory(ports_, path);
 }
 
-void RunKeeping::showText(const std::string& path) {
-  if (onText) return onText(path);
-  ports_.boxes.tell("View Text",
-                    path + " cannot be shown: the part of Kestra B that shows texts is missing.", BoxIcon::warning);
+void RunKeeping::showText(const std::string& path, bool ofInstance) {
+  shell_.editor.OpenFile(path, ofInstance ? frmEditor::kSpillwayOutput : frmEditor::kDamOutput);
 }
 
 void RunKeeping::showGraphs(const std::string& path, bool ofInstance) {
@@ -28,7 +26,7 @@ void RunKeeping::showPreview(const std::string& title, const CanvasLog& drawing)
 }
 
 void RunKeeping::forgetShown() {
-  if (onText) onText({});
+  shell_.editor.forgetFiles();
   shell_.graphs.output.forgetFile();
 }
 

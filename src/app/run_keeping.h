@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,13 +15,10 @@ class RunKeeping : public RunKeeper {
 
   void deleteRuns(const std::vector<std::string>& stems) override;
   std::string checkedDirectory(const std::string& path) override;
-  void showText(const std::string& path) override;
+  void showText(const std::string& path, bool ofInstance) override;
   void showGraphs(const std::string& path, bool ofInstance) override;
   void showPreview(const std::string& title, const CanvasLog& drawing) override;
   void forgetShown() override;
-
-  // Set where a window shows texts: shows a file, or, for an empty path, none any more.
-  std::function<void(const std::string& path)> onText;
 
  private:
   Ports& ports_;

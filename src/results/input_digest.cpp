@@ -1,5 +1,6 @@
 #include "results/input_digest.h"
 
+#include "base/fnv1a.h"
 #include "base/lines.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -19,17 +20,12 @@ std::string hexadecimal(std::uint64_t value) {
 }  // namespace
 
 std::uint64_t inputDigest(std::string_view controlFileText) {
-  constexpr std::uint64_t kStart = 14695981039346656037U;
-  constexpr std::uint64_t kPrime = 1099511628211U;
   constexpr std::string_view kDate = "MODIFIED";
-  std::uint64_t hash = kStart;
-  const auto add = [&hash](char byte) { hash = (hash ^ static_cast<unsigned char>(byte)) * kPrime; };
+  std::uint64_t hash = fnv1a64({});
   LineReader lines(controlFileText);
   std::string_view line;
   while (lines.next(line)) {
-    if (line.starts_with(kDate)) continue;
-    for (const char byte : line) add(byte);
-    add('\n');
+    if (!line.starts_with(kDate)) hash = fnv1a64("\n", fnv1a64(line, hash));
   }
   return hash;
 }

@@ -49,13 +49,16 @@ frmAuxSummaryTable::frmAuxSummaryTable(SummaryContext& context)
 void frmAuxSummaryTable::unload() {
   SummaryTableScreen::unload();
   entries_.clear();
+  folder_.clear();
 }
 
 bool frmAuxSummaryTable::LoadAuxSumDISFiles(const std::string& folder, int spillway) {
   entries_.clear();
   order_ = readSummaryOrder(context_.ports().settings);
-  const std::string start = std::string(ParsePathName(folder)) + std::to_string(spillway) + "_";
+  const std::string_view run = ParsePathName(folder);
+  const std::string start = std::string(run.substr(0, run.find('.'))) + std::to_string(spillway) + "_";
   const std::string directory = context_.runs.checkedDirectory(joinPath(folder, start));
+  folder_ = directory;
   if (directory.empty()) return false;
   FileSystem& files = context_.ports().files;
   for (const std::string& digest : digestsIn(files, directory, start)) {
@@ -64,6 +67,10 @@ bool frmAuxSummaryTable::LoadAuxSumDISFiles(const std::string& folder, int spill
     takeDigest(files, entry.values, joinPath(directory, digest), kInstanceOffset, kMostLines);
   }
   return true;
+}
+
+EntryPlace frmAuxSummaryTable::placeOf(DigestPlaces&, const std::string& name) {
+  return {joinPath(folder_, name), folder_, true};
 }
 
 void frmAuxSummaryTable::viewAll() {

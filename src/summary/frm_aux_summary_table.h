@@ -10,8 +10,8 @@ class frmAuxSummaryTable : public SummaryTableScreen {
   explicit frmAuxSummaryTable(SummaryContext& context);
 
   // Makes the entries anew: one for each digest "<run><spillway>_<instance>.DIS" in the directory of a run, by the
-  // numbers of the instances, and takes the order of the table from the settings. False, after a box and with an empty
-  // table, where there is no such directory.
+  // numbers of the instances, the run's name counting up to its first dot. Takes the order of the table from the
+  // settings. False, after a box and with an empty table, where there is no such directory.
   bool LoadAuxSumDISFiles(const std::string& folder, int spillway);
   EntryList& entries() override { return entries_; }
 
@@ -20,6 +20,7 @@ class frmAuxSummaryTable : public SummaryTableScreen {
  protected:
   void unload() override;
   std::string order() override { return order_; }
+  EntryPlace placeOf(DigestPlaces&, const std::string& name) override;
   void viewAll() override;
   void viewDam() override {
     if (onReturn) onReturn();
@@ -27,6 +28,7 @@ class frmAuxSummaryTable : public SummaryTableScreen {
 
  private:
   EntryList entries_;
+  std::string folder_;  // that of the run whose instances these are
   std::string order_ = kByColumn;
 };
 

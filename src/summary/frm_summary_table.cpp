@@ -47,7 +47,8 @@ void frmSummaryTable::viewAll() {
 void frmSummaryTable::ComputeAuxTableValues(int spillway) {
   const ShownRow* row = selectedRow();
   if (row == nullptr || !onViewSpillway) return;
-  const std::string folder = placeOf(row->entry.name).run;
+  DigestPlaces places = digestPlaces();
+  const std::string folder = placeOf(places, row->entry.name).run;
   if (!folder.empty()) onViewSpillway(folder, spillway);
 }
 

@@ -18,7 +18,7 @@ class RunKeeper {
   // The directory of a path as the disk spells it; empty, after a box, when there is none.
   virtual std::string checkedDirectory(const std::string& path) = 0;
   // Show the text and the graphs of a run; of an instance the first of the spillway graphs.
-  virtual void showText(const std::string& path) = 0;
+  virtual void showText(const std::string& path, bool ofInstance) = 0;
   virtual void showGraphs(const std::string& path, bool ofInstance) = 0;
   virtual void showPreview(const std::string& title, const CanvasLog& drawing) = 0;
   virtual void forgetShown() = 0;  // all runs are gone: the viewers show none

@@ -44,7 +44,7 @@ void SummaryScreens::followStore() {
 void SummaryScreens::viewSpillway(const std::string& folder, int spillway) {
   context.host().unload(auxTable);
   context.host().load(auxTable);
-  if (!auxTable.LoadAuxSumDISFiles(folder, spillway)) return;
+  if (!auxTable.LoadAuxSumDISFiles(folder, spillway)) return context.host().unload(auxTable);
   auxTable.BuildTable();
   context.host().show(auxTable);
 }

@@ -75,10 +75,10 @@ void SummaryTableScreen::deleteAll() {
 }
 
 void SummaryTableScreen::deleteEntries(const std::vector<std::string>& names) {
-  DigestPlaces places(context_.ports().files, context_.state().projectDir);
+  DigestPlaces places = digestPlaces();
   std::vector<std::string> stems;
   for (const std::string& name : names) {
-    const EntryPlace place = places.place(name);
+    const EntryPlace place = placeOf(places, name);
     if (place.stem.empty()) continue;
     stems.push_back(place.stem);
     if (!place.ofInstance) dropInputDigest(context_.ports().files, place.run + ".KSC");

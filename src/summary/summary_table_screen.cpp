@@ -140,21 +140,17 @@ void SummaryTableScreen::select(const std::string& name) {
   }
 }
 
-EntryPlace SummaryTableScreen::placeOf(const std::string& name) {
-  return DigestPlaces(context_.ports().files, context_.state().projectDir).place(name);
-}
-
 // Each run is looked at once.
 void SummaryTableScreen::markChangedInputs(ShownRows& rows) {
   FileSystem& files = context_.ports().files;
-  DigestPlaces places(files, context_.state().projectDir);
+  DigestPlaces places = digestPlaces();
   std::map<std::string, bool> ofRun;  // by what the names of its entries have in common
   std::map<std::string, bool> ofFile;
   for (ShownRow& row : rows) {
     const std::string run(runOfInstance(row.entry.name).value_or(row.entry.name));
     const auto [known, isNew] = ofRun.try_emplace(run);
     if (isNew) {
-      const std::string base = places.place(row.entry.name).run;
+      const std::string base = placeOf(places, row.entry.name).run;
       const auto [file, isNewFile] = ofFile.try_emplace(base);
       if (isNewFile) file->second = !base.empty() && inputHasChanged(files, base + ".KSC");
       known->second = file->second;
@@ -165,23 +161,24 @@ void SummaryTableScreen::markChangedInputs(ShownRows& rows) {
 
 void SummaryTableScreen::GetFileToOpen() {
   const ShownRow* row = selectedRow();
-  const EntryPlace place = row == nullptr ? EntryPlace() : placeOf(row->entry.name);
+  DigestPlaces places = digestPlaces();
+  const EntryPlace place = row == nullptr ? EntryPlace() : placeOf(places, row->entry.name);
   const auto file = [&](const char* extension) {
     return place.stem.empty() ? std::string() : presentPath(context_.ports().files, place.stem + extension);
   };
   textFile_ = file(".OUT");
   graphFile_ = file(place.ofInstance ? ".V2D" : ".KSC");
-  graphOfInstance_ = place.ofInstance;
+  ofInstance_ = place.ofInstance;
 }
 
 void SummaryTableScreen::viewText() {
   GetFileToOpen();
-  if (!textFile_.empty()) context_.runs.showText(textFile_);
+  if (!textFile_.empty()) context_.runs.showText(textFile_, ofInstance_);
 }
 
 void SummaryTableScreen::viewGraphs() {
   GetFileToOpen();
-  if (!graphFile_.empty()) context_.runs.showGraphs(graphFile_, graphOfInstance_);
+  if (!graphFile_.empty()) context_.runs.showGraphs(graphFile_, ofInstance_);
 }
 
 }  // namespace kestra

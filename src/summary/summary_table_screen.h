@@ -77,7 +77,8 @@ class SummaryTableScreen : public Screen {
   virtual void viewDam() = 0;
 
   const ShownRow* selectedRow() const;  // null: none
-  EntryPlace placeOf(const std::string& name);
+  virtual EntryPlace placeOf(DigestPlaces& places, const std::string& name) { return places.place(name); }
+  DigestPlaces digestPlaces() { return {context_.ports().files, context_.state().projectDir}; }
   void showAll(ShownRows rows, const std::string& header);  // in place of the list
   void showList();
 
@@ -108,7 +109,7 @@ class SummaryTableScreen : public Screen {
   bool byRow_ = false;
   std::string textFile_;
   std::string graphFile_;
-  bool graphOfInstance_ = false;
+  bool ofInstance_ = false;  // these are an instance's
 };
 
 }  // namespace kestra

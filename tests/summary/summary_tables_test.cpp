@@ -129,8 +129,8 @@ TEST_F(SummaryTables, areExportedWithTabsWholeOrNotAtAll) {
   choose("/home/out.txt");
   boxes.answers = {BoxButton::yes};
   table.mnuExport.click();
-  EXPECT_EQ(files.content("/home/out.txt")->substr(0, 74),
-            "Name\tType\tInput\tPeak\tStress\r\ndam\tSingle Instance\t\t150.5\t\r\ndam1_1\tMax.\t\t15");
+  EXPECT_EQ(files.content("/home/out.txt")->substr(0, 75),
+            "Name\tType\tInput\tPeak\tStress\r\ndam\tSingle Instance\t\t150.5\t\r\ndam1_1\tMax.\t\t150");
 }
 
 TEST_F(SummaryTables, sayWhereTheInputHasChangedSinceTheRun) {

@@ -27,7 +27,9 @@ struct RecordingRunKeeper : RunKeeper {
     calls.push_back("no directory " + directory);
     return {};
   }
-  void showText(const std::string& path) override { calls.push_back("text " + path); }
+  void showText(const std::string& path, bool ofInstance) override {
+    calls.push_back((ofInstance ? "spillway text " : "text ") + path);
+  }
   void showGraphs(const std::string& path, bool ofInstance) override {
     calls.push_back((ofInstance ? "spillway graphs " : "graphs ") + path);
   }
