@@ -36,6 +36,18 @@ View windowOf(const SummaryPlot& plot, Steps& steps) {
   return {x.low, x.high, y.low, y.high};
 }
 
+// In the middle above the plot, in the letters of all graphs' titles.
+void drawTitle(const GraphSheet& sheet, AbstractCanvas& canvas, std::string_view title) {
+  constexpr double kTitleSize = 16;
+  const double size = canvas.state().fontSize;
+  canvas.ForeColor(sheet.foreground());
+  canvas.FontSize(kTitleSize);
+  canvas.moveTo(canvas.ScaleLeft() + (canvas.ScaleWidth() - canvas.TextWidth(title)) / 2,
+                canvas.ScaleTop() + canvas.ScaleHeight() / 50);
+  canvas.Print(title);
+  canvas.FontSize(size);
+}
+
 // A short label of the Y axis stands left of it as on all graphs, a long one above it.
 void drawLabels(const GraphSheet& sheet, AbstractCanvas& canvas, const SummaryPlot& plot) {
   constexpr std::size_t kMostLetters = 18;
@@ -87,8 +99,8 @@ void drawSummaryPlot(const SummaryPlot& plot, const LineSettings& lines, Abstrac
   canvas.BackColor(sheet.background());
   canvas.Cls();
   canvas.Visible(true);
-  DrawGraphTitle(sheet, canvas, "Summary Graphics");
   DrawFrame(sheet, canvas);
+  drawTitle(sheet, canvas, "Summary Graphics");
   DrawTic(sheet, steps, canvas);
   drawLabels(sheet, canvas, plot);
   drawPoints(sheet, canvas, plot);

@@ -15,8 +15,8 @@ struct PageTable {
   const std::vector<std::string>& cells;
 };
 
-// Draws a table on pages whose texts are measured by `metrics`. Headings stand on top of each page. Columns that find no
-// room on a page go to further pages, behind the names again.
+// Draws a table on pages whose texts are measured by `metrics`. Headings stand on top of each page. Columns that find
+// no room on a page go to further pages, behind the names again.
 std::vector<CanvasLog> tablePages(const PageTable& table, const TextMetrics& metrics);
 
 }  // namespace kestra

@@ -73,18 +73,26 @@ EntryPlace DigestPlaces::place(std::string_view name) {
   return {inProject(joinPath(folder, name)), inProject(folder), true};
 }
 
-// The digest of that name in the project, without its extension.
+// The digest of that name in the project, without its extension. The name as it is spelled goes before others.
 std::optional<std::string> DigestPlaces::digestAt(const std::string& pathInProject) {
   const std::string path = joinPath(project_, pathInProject).append(kDigest);
-  if (isRegular(files_.status(path))) return path;
   const std::string directory(directoryOf(path));
-  const auto [first, last] = listing(directory).equal_range(toLower(ParsePathName(path)));
+  const Entries* entries = listing(directory);
+  if (entries == nullptr) return isRegular(files_.status(path)) ? std::optional(path) : std::nullopt;
+  const std::string_view name = ParsePathName(path);
   std::optional<std::string> found;
+  const auto [first, last] = entries->equal_range(toLower(name));
   for (auto at = first; at != last; ++at) {
-    std::string candidate = joinPath(directory, at->second);
-    if ((!found || candidate < *found) && isRegular(files_.status(candidate))) found = std::move(candidate);
+    const std::string& candidate = at->second.name;
+    const bool isBetter = !found || candidate == name || (*found != name && candidate < *found);
+    if (isBetter && isFile(directory, at->second)) found = candidate;
   }
-  return found;
+  return found ? std::optional(joinPath(directory, *found)) : std::nullopt;
+}
+
+bool DigestPlaces::isFile(const std::string& directory, const DirectoryEntry& entry) const {
+  if (entry.type != FileStatus::Type::link) return entry.type == FileStatus::Type::file;
+  return isRegular(files_.status(joinPath(directory, entry.name)));
 }
 
 bool DigestPlaces::leadsOut(std::string_view name) const {
@@ -92,16 +100,18 @@ bool DigestPlaces::leadsOut(std::string_view name) const {
   return absolutePath(path, absolute_) != path;
 }
 
-const DigestPlaces::Names& DigestPlaces::listing(const std::string& directory) {
-  const auto known = listings_.find(directory);
-  if (known != listings_.end()) return known->second;
-  Names& names = listings_[directory];
-  const auto place = files_.canonical(directory);
-  if (!place) return names;
-  const auto listed = files_.list(place.value());
-  if (!listed) return names;
-  for (const DirectoryEntry& entry : listed.value()) names.emplace(toLower(entry.name), entry.name);
-  return names;
+const DigestPlaces::Entries* DigestPlaces::listing(const std::string& directory) {
+  const auto [known, isNew] = listings_.try_emplace(directory);
+  std::optional<Entries>& entries = known->second;
+  if (isNew) {
+    const auto place = files_.canonical(directory);
+    const auto listed = place ? files_.list(place.value()) : Result<std::vector<DirectoryEntry>>(place.failure());
+    if (listed) {
+      entries.emplace();
+      for (const DirectoryEntry& entry : listed.value()) entries->emplace(toLower(entry.name), entry);
+    }
+  }
+  return entries ? &*entries : nullptr;
 }
 
 }  // namespace kestra

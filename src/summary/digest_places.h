@@ -44,16 +44,17 @@ class DigestPlaces {
   EntryPlace place(std::string_view name);
 
  private:
-  using Names = std::unordered_multimap<std::string, std::string>;  // of a directory, by their letters in lower case
+  using Entries = std::unordered_multimap<std::string, DirectoryEntry>;  // of a directory, by names in lower case
 
   std::optional<std::string> digestAt(const std::string& pathInProject);
   bool leadsOut(std::string_view name) const;
-  const Names& listing(const std::string& directory);
+  bool isFile(const std::string& directory, const DirectoryEntry& entry) const;
+  const Entries* listing(const std::string& directory);  // null: it cannot be listed
 
   FileSystem& files_;
   std::string project_;
   std::string absolute_;  // the same from the root on, with a separator at its end
-  std::map<std::string, Names> listings_;
+  std::map<std::string, std::optional<Entries>> listings_;
 };
 
 }  // namespace kestra

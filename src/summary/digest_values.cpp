@@ -23,7 +23,7 @@ void fillValues(EntryValues& values, std::size_t offset, std::size_t count, std:
 }
 
 void takeDigest(FileSystem& files, EntryValues& values, const std::string& path, std::size_t offset, std::size_t most) {
-  const auto text = readResultFile(files, path);
+  const auto text = readSpelledFile(files, path);
   fillValues(values, offset, most, text ? std::string_view() : kNotAvailable);
   if (!text) return;
   LineReader lines(text.value());

@@ -12,7 +12,8 @@ namespace kestra {
 void fillValues(EntryValues& values, std::size_t offset, std::size_t count, std::string_view text);
 
 // Puts the lines of a digest, at most so many, into the positions behind `offset`; those behind its last line are
-// empty. "N/A" when it cannot be read. Blanks and double quotes around a line are not part of its value.
+// empty. "N/A" when it cannot be read. Blanks and double quotes around a line are not part of its value. The path is
+// spelled as on the disk.
 void takeDigest(FileSystem& files, EntryValues& values, const std::string& path, std::size_t offset, std::size_t most);
 
 }  // namespace kestra

@@ -143,9 +143,9 @@ AxisScale frmSummaryGraphics::Scaling(double low, double high) {
 }
 
 void frmSummaryGraphics::saveAs() {
-  const auto path = chooseFile(
-      context_.ports(),
-      {FileDialog::Kind::save, kSaveAs, "All Files (*.*)|*.*|Bitmap Files (*.bmp)|*.bmp", 2, {}, false});
+  const auto path =
+      chooseFile(context_.ports(),
+                 {FileDialog::Kind::save, kSaveAs, "All Files (*.*)|*.*|Bitmap Files (*.bmp)|*.bmp", 2, {}, false});
   if (!path || path->empty() || !mayWrite(context_.ports(), *path, kSaveAs)) return;
   savePicture(context_.desk, *path, pictureForm(*path).value_or(PictureForm::bmp), picture().log(),
               pictureSizeOf(*this));

@@ -20,8 +20,8 @@ struct ShownRow {
 };
 using ShownRows = std::vector<ShownRow>;
 
-// Adds the rows of a range: one for a single entry; for several, which are the instances of a run, those of the highest,
-// the lowest and the mean measure.
+// Adds the rows of a range: one for a single entry; for several, which are the instances of a run, those of the
+// highest, the lowest and the mean measure.
 void StoreValues(const EntryList& entries, EntryRange range, ShownRows& rows);
 
 // The rows of a table, its entries being sorted first.

@@ -16,7 +16,8 @@ SummaryScreens::SummaryScreens(PictureDesk& desk, const LineSettings& lines, Sum
     context.host().show(table);
   };
   auxTable.onDeleted = [this] { followStore(); };
-  for (SummaryTableScreen* each : {static_cast<SummaryTableScreen*>(&table), static_cast<SummaryTableScreen*>(&auxTable)}) {
+  for (SummaryTableScreen* each :
+       {static_cast<SummaryTableScreen*>(&table), static_cast<SummaryTableScreen*>(&auxTable)}) {
     each->onSummaryGraphs = [this, each] { select(*each); };
     each->onAllDeleted = [this] { graphics.forgetGraph(); };
   }
@@ -44,7 +45,10 @@ void SummaryScreens::followStore() {
 void SummaryScreens::viewSpillway(const std::string& folder, int spillway) {
   context.host().unload(auxTable);
   context.host().load(auxTable);
-  if (!auxTable.LoadAuxSumDISFiles(folder, spillway)) return context.host().unload(auxTable);
+  if (!auxTable.LoadAuxSumDISFiles(folder, spillway)) {
+    context.host().unload(auxTable);
+    return;
+  }
   auxTable.BuildTable();
   context.host().show(auxTable);
 }

@@ -87,7 +87,8 @@ std::size_t SummaryStore::LoadDigestEntry(int fieldOffset, const std::string& di
   std::size_t place = 0;
   SummaryEntry& entry = entries_.named(entryName, &place);
   entry.ofInstance = fieldOffset >= static_cast<int>(kInstanceOffset);
-  takeDigest(ports_.files, entry.values, digestPath, static_cast<std::size_t>(fieldOffset), damFields());
+  const std::string path = presentPath(ports_.files, digestPath);
+  takeDigest(ports_.files, entry.values, path, static_cast<std::size_t>(fieldOffset), damFields());
   return place + 1;
 }
 

@@ -96,8 +96,7 @@ void SummaryTableScreen::deleteEntries(const std::vector<std::string>& names) {
 
 void SummaryTableScreen::exportTable() {
   const auto path = chooseNamedFile(
-      context_.ports(),
-      {FileDialog::Kind::save, kExport, "All Files (*.*)|*.*|Text Files (*.txt)|*.txt", 2, {}, false},
+      context_.ports(), {FileDialog::Kind::save, kExport, "All Files (*.*)|*.*|Text Files (*.txt)|*.txt", 2, {}, false},
       {"Select a File", "No filename is provided"});
   if (!path || !mayWrite(context_.ports(), *path, kExport)) return;
   const Result<std::string> content = exported(*path);

@@ -20,7 +20,7 @@ TEST(AnAxisOfASummary, isWidenedToWholeTicks) {
       {13, 97, 10, 100, 10},        //
       {-3, 7.5, -4, 8, 2},          // the lower end goes down
       {-0.5, 0.5, -0.6, 0.6, 0.2},  // the exponent goes toward zero
-      {0.001, 0.003, 0, 0.2, 0.2},  // below one too
+      {0.001, 0.003, 0, 0.004, 0.002},
       {1020.5, 1026, 1020, 1026, 1},
   };
   for (const auto& each : cases) {
@@ -34,8 +34,8 @@ TEST(AnAxisOfASummary, isWidenedToWholeTicks) {
 TEST(AnAxisOfASummary, needsARange) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-  const std::pair<double, double> cases[] = {{5, 5},         {5, 1},         {0, kInfinity}, {-kInfinity, 0},
-                                             {kNone, 1},     {0, kNone},     {-1e308, 1e308}};
+  const std::pair<double, double> cases[] = {{5, 5},     {5, 1},     {0, kInfinity}, {-kInfinity, 0},
+                                             {kNone, 1}, {0, kNone}, {-1e308, 1e308}};
   for (const auto& [low, high] : cases) EXPECT_THROW(scaleAxis(low, high), ScalingFault) << low << " " << high;
 }
 
@@ -49,7 +49,7 @@ TEST_F(ASummaryPlot, marksPointsThatCanBeSeen) {
   EXPECT_EQ(canvas.state().drawWidth, 5);
   const Lines texts = textsOn(canvas);
   EXPECT_EQ(texts.front(), "Summary Graphics");
-  for (const char* text : {"Stress", "P", "k", "1", "3", "10", "30"}) {
+  for (const char* text : {"Stress", "P", "k", "1", "10", "30"}) {
     EXPECT_NE(std::find(texts.begin(), texts.end(), text), texts.end()) << text;
   }
 }

@@ -88,8 +88,8 @@ TEST(Measures, areTheNumbersOfPositionFiftyFive) {
   const struct {
     const char* value;
     std::optional<double> measure;
-  } cases[] = {{"2.5", 2.5},  {" -1e2 ", -100}, {".5", 0.5},        {"+3 ft", 3},    {"0", 0},
-               {"N/A", {}},   {"", {}},         {"EAST", {}},       {"-", {}},       {"***", {}},
+  } cases[] = {{"2.5", 2.5},  {" -1e2 ", -100}, {".5", 0.5},         {"+3 ft", 3}, {"0", 0},
+               {"N/A", {}},   {"", {}},         {"EAST", {}},        {"-", {}},    {"***", {}},
                {"1e999", {}}, {"nan", {}},      {"\xff\x01\n9", {}}, {"-.x", {}}};
   for (const auto& each : cases) {
     SummaryEntry entry;
@@ -105,14 +105,11 @@ TEST(Extremes, startWithTheFirstMeasureAndTakeTheEarlierOfEqualOnes) {
     std::size_t minimum;
     std::size_t mean;
   } cases[] = {
-      {{"a_0=1", "a_1=3", "a_2=2"}, 1, 0, 2},
-      {{"a_0=2", "a_1=2"}, 0, 0, 0},
-      {{"a_0=N/A", "a_1=N/A", "a_2"}, 0, 0, 0},
-      {{"a_0=N/A", "a_1=-5", "a_2=-2"}, 2, 1, 2},     // mean -7/3
-      {{"a_0=N/A", "a_1=150", "a_2=120"}, 1, 2, 2},   // mean 90, divided by all three
+      {{"a_0=1", "a_1=3", "a_2=2"}, 1, 0, 2},          {{"a_0=2", "a_1=2"}, 0, 0, 0},
+      {{"a_0=N/A", "a_1=N/A", "a_2"}, 0, 0, 0},        {{"a_0=N/A", "a_1=-5", "a_2=-2"}, 2, 1, 2},  // mean -7/3
+      {{"a_0=N/A", "a_1=150", "a_2=120"}, 1, 2, 2},    // mean 90, divided by all three
       {{"a_0=-0.2", "a_1=N/A", "a_2=0.25"}, 2, 0, 1},  // mean near 0, which an entry without a measure reads as
-      {{"a_0=1", "a_1=3", "a_2=5", "a_3=3"}, 2, 0, 1},
-      {{"a_0=EAST", "a_1=1"}, 1, 1, 0},               // mean 0.5, as near to both
+      {{"a_0=1", "a_1=3", "a_2=5", "a_3=3"}, 2, 0, 1}, {{"a_0=EAST", "a_1=1"}, 1, 1, 0},  // mean 0.5, as near to both
   };
   for (const auto& each : cases) {
     const EntryList list = listOf(each.entries);

@@ -11,7 +11,9 @@ constexpr int kStress = 27;
 struct SummaryGraphics : testing::Test, SummaryScreensDesk {
   ~SummaryGraphics() override { history.clear(); }
   void show(int x, int y, bool isLine) { graphics.ShowScreen({x, {}}, {y, {}}, isLine); }
-  Texts calls(const std::string& name) { return callsOf(graphics.isLineGraph() ? graphics.picLine : graphics.picScatter, name); }
+  Texts calls(const std::string& name) {
+    return callsOf(graphics.isLineGraph() ? graphics.picLine : graphics.picScatter, name);
+  }
 };
 
 using Texts = std::vector<std::string>;
@@ -35,7 +37,8 @@ TEST_F(SummaryGraphics, markAPointForEachRowWithBothNumbers) {
 TEST_F(SummaryGraphics, joinTheRowsInTheirOrder) {
   putEntries({"c", "a", "b"});
   const std::pair<const char*, const char*> dams[] = {{"a", "10"}, {"b", "N/A"}, {"c", "20"}};
-  for (const auto& [name, peak] : dams) files.put(std::string("/p/") + name + ".DIS", "t\n" + std::string(peak) + "\n" + peak + "\n");
+  for (const auto& [name, peak] : dams)
+    files.put(std::string("/p/") + name + ".DIS", "t\n" + std::string(peak) + "\n" + peak + "\n");
   open();
   show(2, kPeak, true);
   EXPECT_TRUE(graphics.picLine.visible());
@@ -123,7 +126,7 @@ TEST_F(SummaryGraphics, areSavedPrintedAndCopied) {
   boxes.answers = {BoxButton::yes};
   graphics.mnuSaveAs.click();
   (void)takeBoxes();
-  EXPECT_EQ(files.content("/home/a.bmp"), "form 3, 688x440, 1: Summary Graphics 0.1");
+  EXPECT_EQ(files.content("/home/a.bmp"), "form 3, 688x440, 1: Summary Graphics 150");
   choose("/home/a.png");
   pictures.fails = true;
   graphics.mnuSaveAs.click();
@@ -131,10 +134,10 @@ TEST_F(SummaryGraphics, areSavedPrintedAndCopied) {
   EXPECT_FALSE(files.content("/home/a.png"));
   pictures.fails = false;
   graphics.mnuCopyToClipboard.click();
-  EXPECT_EQ(clipboard.picture(), "form 3, 688x440, 1: Summary Graphics 0.1");
+  EXPECT_EQ(clipboard.picture(), "form 3, 688x440, 1: Summary Graphics 150");
   dialogs.prints = {PrintChoice()};
   graphics.mnuPrint.click();
-  EXPECT_EQ(printer.printed, "form 2, 688x440, 1: Summary Graphics 0.1, copies 1");
+  EXPECT_EQ(printer.printed, "form 2, 688x440, 1: Summary Graphics 150, copies 1");
   graphics.mnuPrintPreview.click();
   EXPECT_EQ(keeper.takeCalls().back().substr(0, 25), "preview Summary Graphics,");
 }

@@ -46,18 +46,16 @@ TEST_F(TextEditor, namesTheFileOfThePageOnShow) {
 
 TEST_F(TextEditor, refusesKeysWithAWarning) {
   editor.OpenFile("/p/dam.OUT", frmEditor::kDamOutput);
-  const std::pair<TextBox*, const char*> pages[] = {{&editor.txtLSPEditor, "QUIL .lsp"},
-                                                    {&editor.txtLHIEditor, "QUIL .lhi"},
-                                                    {&editor.txtOutEditor, "QUIL .out"},
-                                                    {&editor.txtKestraEditor, "Kestra .out"},
-                                                    {&editor.txtHCTEditor, "Kestra .HCT"},
-                                                    {&editor.txtBREEditor, "Kestra .BRE"}};
-  for (const auto& [page, files] : pages) {
+  const std::pair<TextBox*, const char*> pages[] = {
+      {&editor.txtLSPEditor, "QUIL .lsp"},   {&editor.txtLHIEditor, "QUIL .lhi"},
+      {&editor.txtOutEditor, "QUIL .out"},   {&editor.txtKestraEditor, "Kestra .out"},
+      {&editor.txtHCTEditor, "Kestra .HCT"}, {&editor.txtBREEditor, "Kestra .BRE"}};
+  for (const auto& [page, kind] : pages) {
     const std::string before = page->text();
     page->userKey({U'x', {}});
     page->userReplace("x");
-    EXPECT_EQ(takeBoxes(), std::vector<std::string>{std::string("Edit: Warning! You cannot change the ") + files +
-                                                    " files"});
+    EXPECT_EQ(takeBoxes(),
+              std::vector<std::string>{std::string("Edit: Warning! You cannot change the ") + kind + " files"});
     EXPECT_EQ(page->text(), before);
   }
 }
