@@ -32,6 +32,12 @@ std::vector<Operation> outputOperations() {
          return application.shell.output.Push(asInt16(given.integer(0)));
        }},
       {"frmOutput.Pop", {}, pop},
+      {"frmEditor.OpenFile",
+       {"fileName", "page"},
+       [](Application& application, const Arguments& given) -> Json {
+         application.shell.editor.OpenFile(given.text(0), given.integer(1));
+         return nullptr;
+       }},
   };
 }
 

@@ -3,8 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cstdint>
 
+#include "base/fnv1a.h"
 #include "base/text.h"
 #include "control/companion_spillways.h"
 #include "control/companion_tables.h"
@@ -34,9 +34,7 @@ constexpr std::string_view kBreach = "frmProjectInformation.optBreachAnalysis";
 
 // 64-bit FNV-1a, with the length behind it.
 std::string digestOf(std::string_view bytes) {
-  std::uint64_t hash = 14695981039346656037U;
-  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
-  return fmt::format("fnv1a64:{:016x}:{}", hash, bytes.size());
+  return fmt::format("fnv1a64:{:016x}:{}", fnv1a64(bytes), bytes.size());
 }
 
 // What the screens write, and the controls whose texts that are.

@@ -27,8 +27,11 @@ std::string presentPath(FileSystem& files, const std::string& path) {
 
 Result<std::string> readResultFile(FileSystem& files, const std::string& path) {
   const auto found = findResultFile(files, path);
-  if (!found) return found.failure();
-  auto text = files.read(found.value(), kResultLimit);
+  return found ? readSpelledFile(files, found.value()) : found;
+}
+
+Result<std::string> readSpelledFile(FileSystem& files, const std::string& path) {
+  auto text = files.read(path, kResultLimit);
   if (!text) return text;
   std::string bytes = std::move(text).value();
   if (bytes.find('\n') == std::string::npos) std::replace(bytes.begin(), bytes.end(), '\r', '\n');

@@ -24,6 +24,8 @@ std::string presentPath(FileSystem& files, const std::string& path);
 // The whole file, found whatever the letter case of its name. Lines that end in carriage returns alone get line feeds.
 // Fails as FileSystem::read does, notFound where there is no such file.
 Result<std::string> readResultFile(FileSystem& files, const std::string& path);
+// The same of a path that is known to be spelled as on the disk.
+Result<std::string> readSpelledFile(FileSystem& files, const std::string& path);
 
 // Writes the file over the one of that name, whatever its letter case. It is not synced: a run can be run again.
 Status writeResultFile(FileSystem& files, const std::string& path, std::string_view text);

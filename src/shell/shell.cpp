@@ -28,6 +28,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       openProject(context, projects),
       deleteProject(context, projects, topScreen, applicationDirectory),
       output(input.projectInformation),
+      editor(context),
       progress(context),
       fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress},
       commands(fileDesk, projects, applicationDirectory),
@@ -55,6 +56,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   }
   topScreen.onEnd = [this] { end(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
+  topScreen.windows().enter(WindowSlot::editor, editor, &editor.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
     topScreen.windows().shown(screen);
@@ -66,6 +68,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   }
   input.enterAll(host);
   host.enter(output);
+  host.enter(editor);
   host.enter(progress);
   graphs.enterAll(host);
   for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);

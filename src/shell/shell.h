@@ -15,6 +15,7 @@
 #include "shell/projects.h"
 #include "shell/window_commands.h"
 #include "summary/summary_fields.h"
+#include "tools/frm_editor.h"
 
 namespace kestra {
 
@@ -33,6 +34,7 @@ class Shell {
   frmOpenProject openProject;
   frmDeleteProject deleteProject;
   frmOutput output;
+  frmEditor editor;
   frmProgress progress;
   FileDesk fileDesk;
   WindowCommands commands;  // of the input window

@@ -79,8 +79,8 @@ class CommandLine(Runs):
         self.run_kestra(*self.words("build", path))
         out, err, code = self.run_kestra(*self.words("summary", "--project", self.at("dam")))
         self.assertEqual((err, code), ("", 0))
-        self.assertEqual(out.splitlines()[:3],
-                         ["pond", "  Project Title: Larkmoor", "  Peak of Input Hydrograph (cfs): N/A"])
+        self.assertEqual([line[:45] for line in out.splitlines()],
+                         ["Name  Type             Input  Project Title  ", "pond  Single Instance         Larkmoor       "])
         self.assertEqual(self.run_kestra(*self.words("summary"), cwd=self.at("dam")), (out, "", 0))
         none = "Open Project: This is not a valid QUIL project directory!\n"
         self.assertEqual(self.run_kestra(*self.words("summary")), ("", none, 1))
@@ -133,6 +133,22 @@ class Scripts(Runs):
         self.assertEqual(drive.value("variable", name="digestFields")[0].strip(), "Larkmoor")
         self.assertEqual(drive.value("variable", name="spillwayName"), ["", "", ""])
         self.assertIn(b'"pond"\r\n', text_of(self.at("dam/SUMMARY.IDE")))
+
+    def test_build_and_show_the_run_in_the_table_at_once(self):
+        drive = self.open(self.control("pond.KSC"))
+        cells = lambda: drive.value("cells", screen="frmSummaryTable", control="metaSum")
+        drive.click("frmKestra", "mnuBuildFile", "No")
+        self.assertIn("frmSummaryTable", drive.state("visible"))
+        self.assertEqual(cells(), [["Name", "pond"], ["Type", "Single Instance"], ["Input", ""]])
+        self.control("pond.KSC", CONTROL.replace("Dam", "Pond"))
+        drive.value("call", name="frmSummaryTable.BuildTable", args=[])
+        self.assertEqual(cells()[2], ["Input", "input changed since this run"])
+        drive.value("call", name="frmOutputGraph.OpenFile", args=[self.at("dam/pond.KSC")])
+        self.assertTrue(self.build(drive))
+        self.assertEqual(cells()[2], ["Input", ""])
+        self.assertEqual(drive.value("variable", name="textFileToOpen"), self.at("dam/pond.OUT"))
+        drive.click("frmSummaryTable", "cmdView(1)")
+        self.assertEqual(drive.value("cells", screen="frmAuxSummaryTable", control="metaSum")[0], ["Name", "pond1_0"])
 
     def test_build_without_a_file_that_the_user_names(self):
         drive = self.drive(*self.words())
