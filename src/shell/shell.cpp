@@ -29,7 +29,8 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       deleteProject(context, projects, topScreen, applicationDirectory),
       output(input.projectInformation),
       progress(context),
-      fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress},
+      errorTable(context, input),
+      fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress, errorTable},
       commands(fileDesk, projects, applicationDirectory),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
@@ -56,6 +57,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   topScreen.onEnd = [this] { end(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
+  topScreen.windows().enter(WindowSlot::errorTable, errorTable, &errorTable.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
     topScreen.windows().shown(screen);
     topScreen.windows().FindFormToBuildItems();
@@ -67,6 +69,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   input.enterAll(host);
   host.enter(output);
   host.enter(progress);
+  host.enter(errorTable);
   graphs.enterAll(host);
   for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);
   host.setHistory(&history);
