@@ -17,21 +17,22 @@ Result<std::string> findOutput(FileSystem& files, const std::string& controlFile
   return findIgnoringCase(files, directory.empty() ? "." : directory, ParsePathName(output));
 }
 
-bool saysMissing(FileSystem& files, const std::string& path) {
+// False also where that cannot be seen.
+bool holdsResults(FileSystem& files, const std::string& path, const FileStatus& status) {
   const std::string line = std::string(kMissing).append(kCrLf);
-  const auto status = files.status(path);
-  if (!status || status.value().size != line.size()) return false;
+  if (status.size != line.size()) return true;
   const auto text = files.read(path, line.size());
-  return text && text.value() == line;
+  return text && text.value() != line;
 }
 
 }  // namespace
 
 std::string dateOfOutput(const Ports& ports, const std::string& controlFile) {
   const auto path = findOutput(ports.files, controlFile);
-  if (!path || saysMissing(ports.files, path.value())) return {};
+  if (!path) return {};
   const auto status = ports.files.status(path.value());
-  return status ? dateText(ports.clock.localTime(status.value().modifiedNs)) : std::string();
+  if (!status || !holdsResults(ports.files, path.value(), status.value())) return {};
+  return dateText(ports.clock.localTime(status.value().modifiedNs));
 }
 
 void noteMissingOutput(const Ports& ports, const std::string& controlFile) {

@@ -93,11 +93,11 @@ TEST_F(ErrorTable, hasTheSlotOfItsWindowWhileItIsLoaded) {
 }
 
 TEST_F(ErrorTable, leadsToTheScreenOfAFinding) {
-  const std::pair<int, const char*> table[] = {
+  const std::pair<int, const char*> screens[] = {
       {1, "frmProjectInformation"}, {2, "Properties"}, {3, "frmDamSurface"}, {4, "frmStructureTable"},
       {5, "frmHydrographData"},     {6, "frmPSType"},  {7, "frmPSConduit"},  {8, "frmPSRatingTable"},
       {9, "frmAuxSpillways"},       {12, "frmKestra"}};
-  for (const auto& [number, name] : table) {
+  for (const auto& [number, name] : screens) {
     load(name);
     show("F" + std::string(number < 10 ? "    " : "   ") + std::to_string(number) + "    0         0    1\r\n");
     goFrom(1);
