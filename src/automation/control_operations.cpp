@@ -31,6 +31,8 @@ std::vector<Operation> controlOperations() {
             [](ControlFiles& c, const Given& g) { c.WriteSpillwayRun(g.integer(0), g.text(1)); }),
       named("ReadSpillwayRun", {"runText", "spillwayIndex"},
             [](ControlFiles& c, const Given& g) { c.ReadSpillwayRun(g.text(0), g.integer(1)); }),
+      named("BuildAuxScreens", {"text", "i"},
+            [](ControlFiles& c, const Given& g) { c.ReadSpillwayRun(g.text(0), g.integer(1)); }),
       named("WriteControlFiles", {"fileName"}, [](ControlFiles& c, const Given& g) { c.WriteControlFiles(g.text(0)); }),
       named("ReadControlFile", {"fileName"}, [](ControlFiles& c, const Given& g) { c.ReadControlFile(g.text(0)); }),
       named("ParseControlText", {}, [](ControlFiles& c, const Given&) { c.ParseControlText(); }),

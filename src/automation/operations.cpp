@@ -57,6 +57,7 @@ const std::vector<Operation>& operations() {
     append(all, hydrographOperations());
     append(all, resultsOperations());
     append(all, runOperations());
+    append(all, checkOperations());
     append(all, summaryOperations());
     append(all, graphOperations());
     return all;

@@ -47,6 +47,7 @@ std::vector<Operation> spillwayOperations();  // of the principal spillway's scr
 std::vector<Operation> auxOperations();
 std::vector<Operation> structureOperations();  // of the tables of the dam, its reservoir and its tailwater
 std::vector<Operation> controlOperations();    // on the control file
+std::vector<Operation> checkOperations();      // on the findings of the integrity checkers
 std::vector<Operation> summaryOperations();
 
 // RequestError, with the path and the reason, for what the world has refused.

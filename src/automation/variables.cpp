@@ -21,6 +21,22 @@ Json windowFlags(const ApplicationState& state) {
   return flags;
 }
 
+Json describeErrorRows(const std::vector<ErrorRow>& rows) {
+  Json list = Json::array();
+  for (const ErrorRow& row : rows) {
+    list.push_back({{"code", row.code},
+                    {"screenNumber", row.screenNumber},
+                    {"tabNumber", row.tabNumber},
+                    {"elementNumber", row.elementNumber},
+                    {"isError", row.isError},
+                    {"value1", row.value1},
+                    {"value2", row.value2},
+                    {"value3", row.value3},
+                    {"spillwayNumber", row.spillwayNumber}});
+  }
+  return list;
+}
+
 Json focusOf(const Application& application) {
   const Control* focus = application.host.focus();
   if (focus == nullptr) return nullptr;
@@ -75,6 +91,7 @@ const std::map<std::string, Reader>& readers() {
         {"workText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.workText; }},
         {"hydrographText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.hydrographText; }},
         {"auxRunText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.auxRunText; }},
+        {"errorRows", [](const Application& a) { return describeErrorRows(a.shell.errorTable.errorRows); }},
         {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
         {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
         {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},

@@ -9,18 +9,20 @@
 #include "base/runtime_fault.h"
 #include "base/text.h"
 #include "control/companion.h"
+#include "control/dam_output.h"
 #include "control/file_names.h"
 #include "control/load_texts.h"
 #include "control/main_run_writer.h"
 #include "control/spillway_run_reader.h"
 #include "control/spillway_run_writer.h"
 #include "controls/undo_history.h"
-#include "platform/date_text.h"
 #include "platform/files.h"
 
 namespace kestra {
 namespace {
 
+constexpr int kBuilt = -1;
+constexpr std::string_view kDate = "MODIFIED";    // of the dam's output, in the run of a spillway
 constexpr std::size_t kLongestLine = 64U << 10U;  // bytes
 
 // What a load sets is nobody's edit, and what was done before it cannot be undone any more.
@@ -60,7 +62,6 @@ std::string takeRun(LineReader& lines) {
 
 bool sameLines(std::string_view a, std::string_view b) {
   constexpr std::size_t kBand = 20;  // bytes by which the lengths may differ: a date in one and not in the other
-  constexpr std::string_view kDate = "MODIFIED";
   if (a.empty() || a.size() + kBand < b.size() || a.size() > b.size() + kBand) return false;
   LineReader linesA(a);
   LineReader linesB(b);
@@ -70,6 +71,17 @@ bool sameLines(std::string_view a, std::string_view b) {
     if (lineA != lineB && !lineA.starts_with(kDate)) return false;
   }
   return true;
+}
+
+// Without the lines that date the dam's output: a build makes that anew, and nobody has changed anything.
+std::string undated(std::string_view text) {
+  std::string kept;
+  LineReader lines(text);
+  std::string_view line;
+  while (lines.next(line)) {
+    if (!line.starts_with(kDate)) kept.append(line).append(kCrLf);
+  }
+  return kept;
 }
 
 std::size_t longestLine(std::string_view text) {
@@ -87,7 +99,12 @@ void checkSpillway(int spillway) {
 }  // namespace
 
 int ControlFiles::BuildControlText(const std::string& fileName) {
-  constexpr int kBuilt = -1;
+  const int result = buildTexts(fileName);
+  if (result == kBuilt && !builtRuns().empty()) noteMissingOutput(context_.ports, fileName);
+  return result;
+}
+
+int ControlFiles::buildTexts(const std::string& fileName) {
   try {
     screens_.auxSpillwayProfile.storeShown();
     BuildHydrographText();
@@ -95,7 +112,7 @@ int ControlFiles::BuildControlText(const std::string& fileName) {
     texts.controlText = composeMainRun(screens_.context, fields, texts.hydrographText, nullptr);
     texts.auxRunText.fill({});
     for (int i = 0; i < context_.state.numAuxSpillways; ++i) {
-      if (screens_.auxSpillways.analysed(i)) BuildAuxRunText(i, fileName);
+      if (screens_.auxSpillways.analysed(i)) appendRun(i, fileName);
     }
     return kBuilt;
   } catch (const std::exception&) {
@@ -121,19 +138,15 @@ void ControlFiles::BuildAuxRunText(int spillway, const std::string& fileName) {
 void ControlFiles::WriteSpillwayRun(int spillway, const std::string& fileName) {
   checkSpillway(spillway);
   screens_.auxSpillwayProfile.storeShown();
-  ScreenFields fields(screens_.context);
-  texts.auxRunText[static_cast<std::size_t>(spillway)] +=
-      composeSpillwayRun(screens_.context, fields, spillway, {fileName, outputDate(fileName)}, nullptr);
+  appendRun(spillway, fileName);
+  noteMissingOutput(context_.ports, fileName);
 }
 
-// When the output of the dam's run was last written; empty where there is none.
-std::string ControlFiles::outputDate(const std::string& fileName) {
-  const std::string output = outputFileOf(fileName);
-  const std::string directory(directoryOf(output));
-  const auto path = findIgnoringCase(context_.ports.files, directory.empty() ? "." : directory, ParsePathName(output));
-  if (!path) return {};
-  const auto status = context_.ports.files.status(path.value());
-  return status ? dateText(context_.ports.clock.localTime(status.value().modifiedNs)) : std::string();
+void ControlFiles::appendRun(int spillway, const std::string& fileName) {
+  ScreenFields fields(screens_.context);
+  const DamLink link = {fileName, dateOfOutput(context_.ports, fileName)};
+  texts.auxRunText[static_cast<std::size_t>(spillway)] +=
+      composeSpillwayRun(screens_.context, fields, spillway, link, nullptr);
 }
 
 // The texts of the spillways that get a file of their own.
@@ -154,15 +167,8 @@ std::string ControlFiles::wholeText() const {
 }
 
 bool ControlFiles::WriteControlFiles(const std::string& fileName) {
-  FileSystem& files = context_.ports.files;
   const std::string whole = wholeText();
-  bool written = static_cast<bool>(writeWholeFile(files, fileName, whole));
-  for (const int run : builtRuns()) {
-    std::string lines;
-    appendLines(lines, texts.auxRunText[static_cast<std::size_t>(run)]);
-    written = written && writeWholeFile(files, spillwayFileOf(fileName, run), lines);
-  }
-  if (!written) {
+  if (!writeWholeFile(context_.ports.files, fileName, whole) || !writeSpillwayFiles(fileName)) {
     context_.ports.boxes.tell("File Error", "Unable to generate spillway analysis input file", BoxIcon::critical);
     return false;
   }
@@ -175,6 +181,23 @@ bool ControlFiles::WriteControlFiles(const std::string& fileName) {
                                             fileName, kept.failure().reason),
                                 BoxIcon::warning);
     }
+  }
+  return true;
+}
+
+// One for each run. That of a spillway without one is of an older state, and would be checked as if it still stood.
+bool ControlFiles::writeSpillwayFiles(const std::string& fileName) {
+  FileSystem& files = context_.ports.files;
+  const std::vector<int> runs = builtRuns();
+  for (int i = 0; i < kAuxSpillways; ++i) {
+    const std::string path = spillwayFileOf(fileName, i);
+    if (std::ranges::find(runs, i) == runs.end()) {
+      if (exists(files, path)) (void)files.removeFile(path);
+      continue;
+    }
+    std::string lines;
+    appendLines(lines, texts.auxRunText[static_cast<std::size_t>(i)]);
+    if (!writeWholeFile(files, path, lines)) return false;
   }
   return true;
 }
@@ -239,9 +262,9 @@ bool ControlFiles::SameControlFiles(const std::string& a, const std::string& b) 
 
 bool ControlFiles::ControlFileUnchanged() {
   const std::string& current = context_.state.currentFile;
-  if (BuildControlText(current) != -1) return false;
+  if (buildTexts(current) != kBuilt) return false;
   const auto text = context_.ports.files.read(current, kReadLimit);
-  return text && sameLines(wholeText(), text.value());
+  return text && sameLines(undated(wholeText()), undated(text.value()));
 }
 
 // The bytes of a file that can be taken in.

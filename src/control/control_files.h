@@ -20,7 +20,8 @@ class ControlFiles {
   ControlTexts texts;
 
   // Fills controlText from the screens, and auxRunText for each spillway whose integrity or stability is analysed.
-  // `fileName` is the path that the runs name as their control file. -1 on success; anything else: write nothing.
+  // `fileName` is the path that the runs name as their control file; where the dam's output is missing beside it, a
+  // file that says so is left in its place. -1 on success; anything else: write nothing.
   int BuildControlText(const std::string& fileName);
   void BuildHydrographText();  // fills hydrographText
   // Empties auxRunText of a spillway, from 0, and writes its run; WriteSpillwayRun appends. Outside 0 to 2: a fault.
@@ -29,7 +30,8 @@ class ControlFiles {
 
   // Writes the texts as last built: the control file, and beside it a file .AS1 to .AS3 for each analysed spillway.
   // Each is written whole or not at all. A control file in the open project's directory gets its companion,
-  // .kestra/<stem>.json, with what was entered and has no place in the file. False after a box.
+  // .kestra/<stem>.json, with what was entered and has no place in the file. A file .AS1 to .AS3 of a spillway that is
+  // not analysed any more goes. False after a box.
   bool WriteControlFiles(const std::string& fileName);
 
   // What the file does not hold because its columns are too few; told in one box, or none where nothing is lost.
@@ -38,7 +40,7 @@ class ControlFiles {
 
   // Whether two control files are the same for the user's purposes: the date of the run aside.
   bool SameControlFiles(const std::string& a, const std::string& b);
-  // Whether the screens would write what stands in the open file.
+  // Whether the screens would write what stands in the open file, the date of the dam's output aside. Writes nothing.
   bool ControlFileUnchanged();
 
   // Whether a file can be taken in: notFound, tooLarge (above 64 MiB, or a line above 64 KiB), and what else keeps a
@@ -60,9 +62,11 @@ class ControlFiles {
   using FirstLines = std::array<std::size_t, kAuxSpillways>;
 
   Result<std::string> readLoadable(const std::string& fileName);
-  std::string outputDate(const std::string& fileName);
+  int buildTexts(const std::string& fileName);
+  void appendRun(int spillway, const std::string& fileName);
   std::vector<int> builtRuns() const;
   std::string wholeText() const;
+  bool writeSpillwayFiles(const std::string& fileName);
   bool isInProject(const std::string& fileName);
   Status writeCompanion(const std::string& fileName, const std::string& whole);
   void readCompanion(const std::string& fileName, const std::string& whole);

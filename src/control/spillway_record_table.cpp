@@ -35,8 +35,8 @@ constexpr FieldLayout kProfileRow[] = {ten("station 1", 11, kProfileStation, "ft
                                        ten("station 3", 51, kProfileStation, "ft", kStationMeaning),
                                        freeField("elevation 3", 61, 10, kProfileElevation, "ft", kElevationMeaning)};
 
-constexpr FieldLayout kSurface[] = {kElement, freeField("end of channel", 21, 10, "frmAuxSpillwayProfile.txtEnd", "ft",
-                                                        "end of the constructed exit channel")};
+constexpr FieldLayout kSurface[] = {
+    kElement, ten("end of channel", 21, "frmAuxSpillwayProfile.txtEnd", "ft", "end of the constructed exit channel")};
 
 constexpr FieldLayout kData[] = {kElement, blank(21, 20),
                                  ten("side slope", 41, "frmAuxSpillwayProfile.txtSide", "H/V", "side slope ratio")};

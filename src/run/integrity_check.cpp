@@ -12,7 +12,7 @@ namespace kestra {
 namespace {
 
 constexpr int kSpillways = 3;
-constexpr int kMarkColumns = 5;  // in which a spillway's finding says what it is
+constexpr int kMarkColumns = 5;  // in which a spillway's finding says what it is; the last may hold a number already
 constexpr std::size_t kExtension = 3;
 
 std::string baseOf(const std::string& path) {
@@ -46,8 +46,14 @@ void checkSpillway(Ports& ports, const std::string& program, const std::string& 
   removeFound(ports.files, base + "ER1");
 }
 
-// The lines behind the heading of an error file.
-std::vector<std::string> linesOf(FileSystem& files, const std::string& path) {
+void count(Findings& findings, std::string_view mark) {
+  if (mark.starts_with('F')) ++findings.errors;
+  if (mark.starts_with('W')) ++findings.warnings;
+}
+
+}  // namespace
+
+std::vector<std::string> errorLines(FileSystem& files, const std::string& path) {
   std::vector<std::string> lines;
   const auto there = found(files, path);
   if (!there) return lines;
@@ -63,13 +69,6 @@ std::vector<std::string> linesOf(FileSystem& files, const std::string& path) {
   std::erase(lines, std::string());
   return lines;
 }
-
-void count(Findings& findings, std::string_view mark) {
-  if (mark == "F") ++findings.errors;
-  if (mark == "W") ++findings.warnings;
-}
-
-}  // namespace
 
 std::string errorFileOf(const std::string& controlFile) {
   return baseOf(controlFile) + "ERR";
@@ -91,9 +90,9 @@ Status RunIntegrityChecker(Ports& ports, const std::string& applicationDirectory
 
 Findings CountFindings(FileSystem& files, const std::string& errPath) {
   Findings findings;
-  for (const std::string& line : linesOf(files, errPath)) count(findings, trim(columns(line, 1, 1)));
+  for (const std::string& line : errorLines(files, errPath)) count(findings, trim(columns(line, 1, 1)));
   for (int number = 1; number <= kSpillways; ++number) {
-    for (const std::string& line : linesOf(files, errPath + std::to_string(number))) {
+    for (const std::string& line : errorLines(files, errPath + std::to_string(number))) {
       count(findings, trim(columns(line, 1, kMarkColumns)));
     }
   }
@@ -101,9 +100,9 @@ Findings CountFindings(FileSystem& files, const std::string& errPath) {
 }
 
 std::vector<std::string> findingLines(FileSystem& files, const std::string& errPath) {
-  std::vector<std::string> all = linesOf(files, errPath + "0");
+  std::vector<std::string> all = errorLines(files, errPath + "0");
   for (int number = 1; number <= kSpillways; ++number) {
-    for (std::string& line : linesOf(files, errPath + std::to_string(number))) all.push_back(std::move(line));
+    for (std::string& line : errorLines(files, errPath + std::to_string(number))) all.push_back(std::move(line));
   }
   return all;
 }

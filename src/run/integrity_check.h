@@ -26,7 +26,10 @@ Status RunIntegrityChecker(Ports& ports, const std::string& applicationDirectory
 
 // Counts what the error files of a control file hold; a file that is not there holds nothing. `errPath`: base + "ERR".
 Findings CountFindings(FileSystem& files, const std::string& errPath);
-// The lines of the findings as they stand, blanks at their ends cut off: those of the dam, then of the spillways.
+// The lines of an error file behind its heading, blanks at their ends cut off, those without text left out; none where
+// there is no file.
+std::vector<std::string> errorLines(FileSystem& files, const std::string& path);
+// The lines of the findings as they stand: those of the dam, then of the spillways.
 std::vector<std::string> findingLines(FileSystem& files, const std::string& errPath);
 
 std::string errorFileOf(const std::string& controlFile);  // base + "ERR"

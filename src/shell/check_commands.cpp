@@ -9,11 +9,6 @@ namespace {
 
 constexpr const char* kTitle = "Integrity Check";
 constexpr const char* kBeforeCheck = "Do you want to save changes to the current file before checking integrity?";
-constexpr const char* kErrorTable = "frmErrorTable";
-
-std::string counted(int count, const std::string& what) {
-  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
 
 }  // namespace
 
@@ -46,38 +41,24 @@ std::optional<Findings> CheckCommands::checkFile(const std::string& path) {
     return std::nullopt;
   }
   checked_ = path;
+  desk_.context.host.unload(desk_.errorTable);  // it shows what another check has found
   const Findings findings = CountFindings(desk_.files(), errorFileOf(path));
-  if (wantsToSee(findings)) {
-    showTable(path, findings);
-  } else {
-    showInputWindow(desk_);
-  }
+  const bool shown = wantsToSee(findings) && desk_.errorTable.showFindings(errorFileOf(path));
+  if (!shown) showInputWindow(desk_);
   return findings;
 }
 
 bool CheckCommands::wantsToSee(const Findings& findings) {
   if (findings.errors > 0) return true;
   if (findings.warnings > 0) return desk_.boxes().confirm(kTitle, "Integrity check generated warnings. View?");
-  if (Screen* table = desk_.context.host.find(kErrorTable)) desk_.context.host.unload(*table);
   desk_.boxes().tell(kTitle, "No Errors or Warnings Found", BoxIcon::information);
   return false;
-}
-
-// Without the screen for them the findings are counted out, with the place where they stand.
-void CheckCommands::showTable(const std::string& path, const Findings& findings) {
-  if (showScreen(desk_, kErrorTable)) return;
-  desk_.boxes().tell(kTitle,
-                     counted(findings.errors, "error") + " and " + counted(findings.warnings, "warning") +
-                         " were found. They stand in " + errorFileOf(path) + ".",
-                     BoxIcon::information);
-  showInputWindow(desk_);
 }
 
 void CheckCommands::showErrorTable() {
   const std::string& open = desk_.state().currentFile;
   const std::string& path = open.empty() ? checked_ : open;
-  const auto lines = path.empty() ? std::vector<std::string>() : findingLines(desk_.files(), errorFileOf(path));
-  if (!lines.empty()) return showTable(path, CountFindings(desk_.files(), errorFileOf(path)));
+  if (!path.empty() && desk_.errorTable.showFindings(errorFileOf(path))) return;
   desk_.boxes().tell("Error Table", "No Errors Found", BoxIcon::information);
   showInputWindow(desk_);
 }

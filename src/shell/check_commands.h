@@ -20,7 +20,6 @@ class CheckCommands {
  private:
   std::optional<std::string> fileToCheck();
   bool wantsToSee(const Findings& findings);
-  void showTable(const std::string& path, const Findings& findings);
 
   FileDesk& desk_;
   SaveCommands& saving_;

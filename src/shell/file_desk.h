@@ -5,6 +5,7 @@
 #include "control/control_files.h"
 #include "screens/file_runs.h"
 #include "screens/frm_progress.h"
+#include "shell/frm_error_table.h"
 #include "shell/frm_kestra.h"
 #include "shell/frm_top_screen.h"
 #include "tools/frm_output.h"
@@ -20,6 +21,7 @@ struct FileDesk {
   frmKestra& window;
   frmOutput& output;
   frmProgress& progress;
+  frmErrorTable& errorTable;
   FileRuns* runs = nullptr;  // null: nothing here can start a run
 
   ApplicationState& state() const { return context.state; }

@@ -24,7 +24,9 @@ bool SaveCommands::SaveBeforeAction(const std::string& question, bool offersCanc
   const BoxButton answer = desk_.boxes().show(box);
   if (answer != BoxButton::yes) return answer == BoxButton::no;
   const auto name = chooseName();
-  return name && file_.write(*name, kWarning);
+  if (!name || !file_.write(*name, kWarning)) return false;
+  desk_.control.tellCutFields();
+  return true;
 }
 
 bool SaveCommands::saveAs() {

@@ -30,7 +30,8 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       output(input.projectInformation),
       editor(context),
       progress(context),
-      fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress},
+      errorTable(context, input),
+      fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress, errorTable},
       commands(fileDesk, projects, applicationDirectory),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
@@ -58,6 +59,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::editor, editor, &editor.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
+  topScreen.windows().enter(WindowSlot::errorTable, errorTable, &errorTable.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
     topScreen.windows().shown(screen);
     topScreen.windows().FindFormToBuildItems();
@@ -70,6 +72,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
   host.enter(output);
   host.enter(editor);
   host.enter(progress);
+  host.enter(errorTable);
   graphs.enterAll(host);
   for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);
   host.setHistory(&history);

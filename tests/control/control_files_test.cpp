@@ -41,7 +41,7 @@ TEST(WriteControlFiles, writesTheMainRunAndTheRunsOfTheSpillwaysBehindIt) {
   EXPECT_EQ(desk.content("/p/dam.AS1"), texts.auxRunText[0]);
   EXPECT_EQ(desk.content("/p/dam.AS3"), texts.auxRunText[2]);
   EXPECT_FALSE(desk.files.content("/p/dam.AS2"));
-  EXPECT_EQ(desk.files.paths(), (Lines{"/p", "/p/dam.AS1", "/p/dam.AS3", "/p/dam.KSC"}));
+  EXPECT_EQ(desk.files.paths(), (Lines{"/p", "/p/dam.AS1", "/p/dam.AS3", "/p/dam.KSC", "/p/dam.OUT"}));
   EXPECT_TRUE(desk.takeBoxes().empty());
 }
 
@@ -60,6 +60,15 @@ TEST(WriteControlFiles, writesNoRunOfASpillwayThatIsNotInUse) {
   ASSERT_TRUE(desk.save("/p/other.KSC"));
   EXPECT_TRUE(desk.files.content("/p/other.AS1"));
   EXPECT_FALSE(desk.files.content("/p/other.AS2"));
+}
+
+TEST(WriteControlFiles, takesAwayTheFileOfASpillwayThatIsNotAnalysedAnyMore) {
+  FileDesk desk;
+  desk.analyse({0, 1});
+  ASSERT_TRUE(desk.save());
+  desk.screens.auxSpillways.optNone(0).setSelected(true);
+  ASSERT_TRUE(desk.save());
+  EXPECT_EQ(desk.files.paths(), (Lines{"/p", "/p/dam.AS2", "/p/dam.KSC", "/p/dam.OUT"}));
 }
 
 // Each step of saving fails in turn: the old file or the new one stands, whole, and no other file is left.
@@ -84,7 +93,7 @@ TEST(WriteControlFiles, leaveTheOldFileWholeWhateverFails) {
     const bool saved = desk.save();
     const std::string content = desk.content("/p/dam.KSC");
     EXPECT_TRUE(content == old || content == next) << n;
-    EXPECT_EQ(desk.files.paths(), (Lines{"/p", "/p/dam.AS1", "/p/dam.KSC"})) << n;
+    EXPECT_EQ(desk.files.paths(), (Lines{"/p", "/p/dam.AS1", "/p/dam.KSC", "/p/dam.OUT"})) << n;
     const Lines told = {"File Error: Unable to generate spillway analysis input file"};
     EXPECT_EQ(desk.takeBoxes(), saved ? Lines() : told) << n;
     EXPECT_TRUE(!saved || content == next) << n;
@@ -152,6 +161,23 @@ TEST(ControlFileUnchanged, comparesTheScreensWithTheOpenFileAndLeavesNoTrace) {
   EXPECT_EQ(desk.files.paths(), before);
   desk.state.currentFile = "/p/other.KSC";
   EXPECT_FALSE(desk.onDisk.ControlFileUnchanged());
+}
+
+TEST(ControlFileUnchanged, passesOverTheDateOfTheDamsOutput) {
+  FileDesk desk;
+  desk.analyse({0, 1});
+  ASSERT_TRUE(desk.save());
+  desk.state.currentFile = "/p/dam.KSC";
+  for (const std::int64_t second : {1'234'188'185LL, 1'234'188'999LL}) {
+    desk.files.clockNs = second * 1'000'000'000LL;
+    desk.files.put("/p/dam.OUT", "results");
+    EXPECT_TRUE(desk.onDisk.ControlFileUnchanged());
+  }
+  EXPECT_NE(desk.onDisk.texts.auxRunText[1].find("MODIFIED  02/09/2009"), std::string::npos);
+  ASSERT_TRUE(desk.save());
+  (void)desk.files.removeFile("/p/dam.OUT");
+  EXPECT_TRUE(desk.onDisk.ControlFileUnchanged());
+  EXPECT_FALSE(desk.files.content("/p/dam.OUT"));
 }
 
 TEST(ReadControlFile, takesTheRunsOfTheFileIntoTheTexts) {

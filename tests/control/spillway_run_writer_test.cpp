@@ -47,7 +47,7 @@ TEST(SpillwayRun, holdsItsRecordsInTheirOrder) {
                                 "ASSPRFL   41        0.5                 East",
                                 "          0         1010      100       1008                ",
                                 "ENDTABLE",
-                                "ASSURFACE 41        500",
+                                "ASSURFACE 41        500       ",
                                 "          0         100       5.6       0.8       1         2         ",
                                 "ENDTABLE",
                                 "ASDATA    41                            3         ",

@@ -114,10 +114,9 @@ class Check(Batch):
         write(a, POND)
         write(b, POND)
         self.checker("KestraIntCheck.exe", r"    1    1\r\nF    3    0         1   19\r\nW    4\r\n")
-        found = "Integrity Check: 1 error and 1 warning were found. They stand in {}.\n"
         out, err, code = self.run_in("check", a, b)
         lines = "".join(f"{path}: F    3    0         1   19\n{path}: W    4\n" for path in (a, b))
-        self.assertEqual((out, err, code), (lines, found.format(a[:-3] + "ERR") + found.format(b[:-3] + "ERR"), 1))
+        self.assertEqual((out, err, code), (lines, "", 1))
 
     def test_ends_with_0_where_there_are_warnings_at_most(self):
         path = self.at("dam/a.KSC")

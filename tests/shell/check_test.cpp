@@ -15,7 +15,6 @@ constexpr const char* kNoErrors = "Error Table: No Errors Found";
 
 struct CheckFile : testing::Test {
   WindowDesk desk;
-  Screen table{"frmErrorTable", "Errors"};
 
   CheckFile() {
     desk.window.mnuNew.click();
@@ -41,7 +40,6 @@ TEST_F(CheckFile, startsTheCheckerOnTheOpenFile) {
 }
 
 TEST_F(CheckFile, showsTheTableOfErrorsAndOfWarningsOnYes) {
-  desk.app.host.enter(table);
   finds("x\r\nW\r\nF\r\n");
   check();
   EXPECT_EQ(desk.takeBoxes(), Boxes());
@@ -58,14 +56,19 @@ TEST_F(CheckFile, showsTheTableOfErrorsAndOfWarningsOnYes) {
   finds("x\r\n");
   check();
   EXPECT_EQ(desk.takeBoxes(), Boxes{kNone});
-  EXPECT_FALSE(table.loaded());
+  EXPECT_FALSE(desk.shell.errorTable.loaded());
 }
 
-TEST_F(CheckFile, countsTheFindingsWhereThereIsNoTable) {
-  finds("x\r\nF\r\nF\r\nW\r\n");
+TEST_F(CheckFile, countsAFindingOfASpillwayOnAScreenOfTwoDigits) {
+  desk.memory.put("/home/dam/pond.AS1", "");
+  desk.processes.effects["/app/IntCheck.exe"] = [this](const ProcessRequest&) {
+    desk.memory.put("/home/dam/pond.ER1", "x\r\nF   10    3         1        401\r\n");
+    return Exited{0};
+  };
   check();
-  EXPECT_EQ(desk.takeBoxes(),
-            Boxes{"Integrity Check: 2 errors and 1 warning were found. They stand in /home/dam/pond.ERR."});
+  EXPECT_EQ(desk.takeBoxes(), Boxes());
+  EXPECT_EQ(desk.front(), "frmErrorTable");
+  EXPECT_EQ(desk.shell.errorTable.errTable.cell(1, 3), "Headcut Index must have a value.");
 }
 
 TEST_F(CheckFile, findsNothingWhenTheCheckerWritesNoErrorFile) {
@@ -133,22 +136,20 @@ TEST_F(CheckFile, leavesItsFindingsForTheErrorTable) {
     desk.window.mnuErrorTable.click();
     EXPECT_EQ(desk.takeBoxes(), Boxes{kNoErrors});
   }
-  desk.app.host.enter(table);
   finds("x\r\nF\r\n");
   check();
-  desk.app.host.unload(table);
+  desk.app.host.unload(desk.shell.errorTable);
   desk.window.mnuErrorTable.click();
   EXPECT_EQ(desk.front(), "frmErrorTable");
 }
 
 TEST_F(CheckFile, keepsTheTableOfAChosenFile) {
-  desk.app.host.enter(table);
   finds("x\r\nF\r\n");
   desk.window.mnuNew.click();
   desk.boxes.answers = {BoxButton::yes};
   desk.choose(kPath);
   check();
-  desk.app.host.unload(table);
+  desk.app.host.unload(desk.shell.errorTable);
   desk.window.mnuErrorTable.click();
   EXPECT_EQ(desk.front(), "frmErrorTable");
 }

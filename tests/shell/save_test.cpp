@@ -184,5 +184,23 @@ TEST_F(SaveAs, writesNothingIntoAProjectThatAnotherProgramHas) {
   EXPECT_TRUE(desk.state.fileDirty);
 }
 
+TEST_F(SaveAs, tellsWhatTheFieldsCutOffWhicheverCommandSaves) {
+  constexpr const char* kBeforeNew =
+      "Warning: Do you want to save changes to the current file before creating a new file?";
+  constexpr const char* kCut =
+      "Warning: These texts are longer than their fields in the control file, which does not hold their ends:\r\n"
+      "\r\nCrest, width: \"12345678901\" loses \"1\"";
+  const auto enter = [&] { desk.shell.input.damSurface.txtCrestWidth.userReplace("12345678901"); };
+  enter();
+  save("/home/dam/pond.KSC");
+  EXPECT_EQ(desk.takeBoxes(), Boxes{kCut});
+  enter();
+  desk.edit("Lake");
+  desk.boxes.answers = {BoxButton::yes};
+  desk.choose("/home/dam/lake.KSC");
+  desk.window.mnuNew.click();
+  EXPECT_EQ(desk.takeBoxes(), (Boxes{kBeforeNew, kCut}));
+}
+
 }  // namespace
 }  // namespace kestra

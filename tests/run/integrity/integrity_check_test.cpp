@@ -73,12 +73,13 @@ TEST_F(IntegrityCheck, countsErrorsAndWarningsBehindTheHeading) {
   };
   const std::string heading = kHeading;
   const std::string dam = "F    3\r\nW    5\r\nF\r\nX\r\n\r\nWARNING: odd\r\n f\r\n";
-  const std::string spillway = "F        2\r\n    W    3\r\n  F      3\r\nFW\r\nF2\r\n";
+  const std::string spillway =
+      "F        2\r\n    W    3\r\n  F      3\r\nF   10    1\r\nX   11\r\nWARNING: odd\r\n     F\r\n";
   const Row table[] = {{"", "", {0, 0}},
                        {"F\r\nF\r\n", "", {1, 0}},
                        {"no heading end", "", {0, 0}},
                        {heading + dam, "", {2, 2}},
-                       {"", heading + spillway, {2, 1}}};
+                       {"", heading + spillway, {3, 2}}};
   for (const Row& row : table) {
     files.put("/dam/a.ERR", row.dam);
     files.put("/dam/a.ERR2", row.spillway);
