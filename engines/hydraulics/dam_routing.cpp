@@ -20,6 +20,7 @@ constexpr std::size_t kMostErosionRows = 15000;
 constexpr double kErosionRowShare = 1.0 / 16;  // of the rows' spacing, between rows of a growing breach
 constexpr double kStepsToBegin = 10000;
 constexpr double kStepsAPoint = 20;
+constexpr double kStepsARow = 4;
 
 bool sameTime(double a, double b, double spacing) {
   return std::fabs(a - b) < 1e-6 * spacing;
@@ -30,6 +31,14 @@ int eventsOf(const ErosionEvents& events) {
          events.breachCompleted.has_value();
 }
 
+// What points and rows ask for, and some more.
+long boundOnSteps(const RoutingInput& input) {
+  const double hours = input.inflow.x().back() - input.inflow.x().front() + kTailHours;
+  const double rows = std::min(hours / input.rowHours, static_cast<double>(kMostRoutingRows));
+  const double steps = kStepsToBegin + kStepsAPoint * static_cast<double>(input.inflow.size()) + kStepsARow * rows;
+  return static_cast<long>(steps / input.stepShare);
+}
+
 // Gathers a result while the pool is taken from moment to moment.
 class Routing {
  public:
@@ -38,8 +47,7 @@ class Routing {
         march_(input),
         state_(march_.start()),
         end_(input.inflow.x().back()),
-        mostSteps_(static_cast<long>((kStepsToBegin + kStepsAPoint * static_cast<double>(input.inflow.size())) /
-                                     input.stepShare)) {}
+        mostSteps_(boundOnSteps(input)) {}
 
   RoutingResult run() {
     notePeaks();
@@ -188,14 +196,19 @@ class Routing {
     result_.drawdown->reached = state_.hours + part * (to.hours - state_.hours);
   }
 
+  // Without a breach the outflow rises and falls with the pool; at the top it is what comes in. Of the two the lower
+  // one counts: where the outlets are much too large for the reservoir, a trace of pool is a flood.
+  void takeOutflowOfHighestPool() {
+    const double ofPool = input_.outlets.flows(result_.pool.value, state_.erosion).total();
+    const double ofInflow = march_.inflow(result_.pool.hours);
+    result_.outflow = {result_.pool.hours, std::max(outflow_.greatest(), std::min(ofPool, ofInflow))};
+    result_.poolAtPeakOutflow = result_.pool.value;
+  }
+
   void finish() {
     result_.pool = pool_.peak();
     result_.outflow = outflow_.peak();
-    if (breach_.peak().value <= 0) {
-      // Without a breach the outflow rises and falls with the pool.
-      result_.outflow = {result_.pool.hours, input_.outlets.flows(result_.pool.value, state_.erosion).total()};
-      result_.poolAtPeakOutflow = result_.pool.value;
-    }
+    if (breach_.peak().value <= 0) takeOutflowOfHighestPool();
     result_.breachOutflow = breach_.peak();
     result_.breachVolume = state_.throughBreach;
     result_.inflowVolume = state_.in;

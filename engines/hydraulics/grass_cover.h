@@ -37,9 +37,9 @@ double stemsOf(const GrassCover& cover, Stand stand);
 double retardanceIndex(double height, double stems);
 
 // How long grass of a stand has lasted under a flow, ft/s, h; infinite below the speed that it bears for ever. An index
-// of the work beyond a limit, (V^3 - Vc^3) t = E, by Dean, Rosati, Walton and Edge 2010, Ocean Engineering 37, fitted to
-// the curves of Hewlett, Boorman and Bramley 1987, CIRIA report 116. It checks the stress over time; nothing is computed
-// with it.
+// of the work beyond a limit, (V^3 - Vc^3) t = E, by Dean, Rosati, Walton and Edge 2010, Ocean Engineering 37, fitted
+// to the curves of Hewlett, Boorman and Bramley 1987, CIRIA report 116. It checks the stress over time; nothing is
+// computed with it.
 enum class GrassQuality { poor, average, good };
 double enduranceHours(GrassQuality quality, double velocity);
 

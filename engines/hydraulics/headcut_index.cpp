@@ -15,15 +15,8 @@ struct RockClass {
 };
 
 // The strongest first.
-constexpr std::array<RockClass, 9> kRocks = {{{212, 280},
-                                              {106, 140},
-                                              {53, 70},
-                                              {26.4, 35},
-                                              {13.2, 17.7},
-                                              {6.6, 8.39},
-                                              {3.3, 3.95},
-                                              {1.7, 1.86},
-                                              {1.25, 0.87}}};
+constexpr std::array<RockClass, 9> kRocks = {
+    {{212, 280}, {106, 140}, {53, 70}, {26.4, 35}, {13.2, 17.7}, {6.6, 8.39}, {3.3, 3.95}, {1.7, 1.86}, {1.25, 0.87}}};
 
 constexpr double kLeastIndex = 0.01;  // up to which anything moves a headcut
 constexpr double kRockIndex = 18.2;   // from which the advance no longer changes

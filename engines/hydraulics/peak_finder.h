@@ -11,6 +11,7 @@ class PeakFinder {
 
   // Of the parabola through the greatest value and its neighbours where it is between two, else the value itself.
   const RoutingPeak& peak() const { return peak_; }
+  double greatest() const { return greatest_; }
   bool peakIsNew() const { return isNew_; }  // the value taken last is the greatest so far
 
  private:

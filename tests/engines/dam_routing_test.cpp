@@ -71,6 +71,26 @@ TEST(RouteDam, findsThePeakOfAFloodThatEndsAtOnce) {
   EXPECT_EQ(result.poolAtPeakOutflow, result.pool.value);
 }
 
+// Rows alone ask for more steps than a short hydrograph's points do.
+TEST(RouteDam, comesToTheEndOfAFineTableOfFewPoints) {
+  RoutingInput dam = sampleDam();
+  dam.inflow = LinearTable({0, 2, 24}, {0, 900, 0});
+  dam.rowHours = 24.0 / 10000;
+  const RoutingResult result = routeDam(dam);
+  EXPECT_EQ(result.end, RoutingEnd::complete);
+  EXPECT_GT(result.steps, 10000);
+}
+
+// A rating that opens like a gate: what comes in runs out, whatever the last digits of the pool.
+TEST(RouteDam, findsThePeakUnderARatingThatRisesLikeAWall) {
+  RoutingInput dam = sampleDam();
+  dam.outlets.auxiliary[0] = RatingCurve({25, 25.5, 40}, {0, 1e7, 1e7}, RatingCurve::Shape::straight);
+  const RoutingResult result = routeDam(dam);
+  EXPECT_LT(result.outflow.value, 3000);
+  dam.stepShare = 0.5;
+  EXPECT_TRUE(isClose(routeDam(dam).outflow.value, result.outflow.value));
+}
+
 TEST(RouteDam, findsNoFaultInTheVolumesWithoutWater) {
   RoutingInput dam = sampleDam();
   dam.inflow = LinearTable({0, 10}, {0, 0});
@@ -189,6 +209,7 @@ TEST(RouteDam, staysAtTheFloorOfAReservoirThatRunsDry) {
   EXPECT_TRUE(result.ranDry);
   EXPECT_EQ(result.rows.back().pool, 0);
   EXPECT_NEAR(result.rows.back().flows.total(), 10, 1e-9);
+  EXPECT_LT(result.balanceError(), 1e-9);
 }
 
 TEST(RouteDam, comesToItsEndUnderATailwaterThatRisesLikeAWall) {

@@ -12,12 +12,11 @@ namespace {
 constexpr double kHalfPercent = 0.005;
 
 TEST(GrassCovers, areThoseOfTheHandbook) {
-  constexpr GrassCover kTable[] = {{"bermudagrass", 0.90, 500},      {"centipedegrass", 0.90, 500},
-                                   {"buffalograss", 0.87, 400},      {"Kentucky bluegrass", 0.87, 350},
-                                   {"blue grama", 0.87, 350},        {"grass mixture", 0.75, 200},
-                                   {"weeping lovegrass", 0.50, 350}, {"yellow bluestem", 0.50, 250},
-                                   {"alfalfa", 0.50, 500},           {"lespedeza sericea", 0.50, 300},
-                                   {"common lespedeza", 0.50, 150},  {"sudangrass", 0.50, 50}};
+  constexpr GrassCover kTable[] = {
+      {"bermudagrass", 0.90, 500},       {"centipedegrass", 0.90, 500},   {"buffalograss", 0.87, 400},
+      {"Kentucky bluegrass", 0.87, 350}, {"blue grama", 0.87, 350},       {"grass mixture", 0.75, 200},
+      {"weeping lovegrass", 0.50, 350},  {"yellow bluestem", 0.50, 250},  {"alfalfa", 0.50, 500},
+      {"lespedeza sericea", 0.50, 300},  {"common lespedeza", 0.50, 150}, {"sudangrass", 0.50, 50}};
   ASSERT_EQ(kGrassCovers.size(), std::size(kTable));
   for (std::size_t i = 0; i < kGrassCovers.size(); ++i) {
     EXPECT_EQ(kGrassCovers[i].name, kTable[i].name);
@@ -48,8 +47,11 @@ TEST(EnduranceHours, areThoseOfTheWorkIndex) {
     double good, average, poor;
     double lastDigit;
   };
-  constexpr Row kRows[] = {{2.0, 63.0, 11.0, 3.8, 0.1}, {2.5, 14.0, 4.7, 1.9, 0.1}, {3.0, 6.5, 2.6, 1.1, 0.1},
-                           {3.5, 3.7, 1.6, 0.67, 0.1},  {4.0, 2.35, 1.03, 0.45, 0.01}};
+  constexpr Row kRows[] = {{2.0, 63.0, 11.0, 3.8, 0.1},
+                           {2.5, 14.0, 4.7, 1.9, 0.1},
+                           {3.0, 6.5, 2.6, 1.1, 0.1},
+                           {3.5, 3.7, 1.6, 0.67, 0.1},
+                           {4.0, 2.35, 1.03, 0.45, 0.01}};
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.metres);
     const double feet = row.metres / 0.3048;
