@@ -37,6 +37,24 @@ void requireRows(const std::string& history, std::size_t width) {
   while (lines.next(line)) fuzzRequire(line.size() == width, "a row has its columns");
 }
 
+// The table of the routing, where there is one: rows of eleven fields down to a blank line. The echo's lines begin with
+// a blank, so that none of them is taken for its title.
+void requireRouting(std::string_view report) {
+  constexpr std::size_t kHeadings = 6;
+  constexpr std::size_t kWidth = 110;
+  const std::size_t title = report.find("\r\nHydrograph Routing\r\n");
+  if (title == std::string_view::npos) return;
+  LineReader lines(report.substr(title + 2));
+  std::string_view line;
+  for (std::size_t i = 0; i < kHeadings; ++i) lines.next(line);
+  std::size_t rows = 0;
+  while (lines.next(line) && !line.empty()) {
+    fuzzRequire(line.size() == kWidth, "a row of the routing has its columns");
+    ++rows;
+  }
+  fuzzRequire(rows > 0, "a routing has rows");
+}
+
 }  // namespace
 
 std::vector<std::string> fuzzSeeds() {
@@ -72,6 +90,10 @@ std::vector<std::string> fuzzSeeds() {
           "110\nENDTABLE\nENDRUN\n",
       "OPTION    COEFF     EARTH     \nHCMODEL   2         120       4         600       0\n" + flood + tail +
           "DWNSTREAM 2.5       5.6       0.75      2         0         0.01\nENDRUN\n",
+      "OPTION    SIMPLE    EARTH     \nHCMODEL   2         124       0.4       900       0.02\n" + flood +
+          "TAILWATER\n          100       0\n          99999     500\nENDTABLE\n" +
+          tail.substr(0, tail.find("TAILWATER")) +
+          "DWNSTREAM 2.5       5.6       0.75      1         10        0.01\nENDRUN\n",
       "",
   };
 }
@@ -85,6 +107,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const DamFiles files = runDam(text);
   fuzzRequire(files.report.ends_with("End of run\r\n"), "the report comes to its end");
   requireFigures(files.report, text);
+  requireRouting(files.report);
   if (files.breach) {
     requireRows(*files.breach, 72);
     requireFigures(*files.breach, "");

@@ -10,7 +10,7 @@ namespace kestra {
 namespace {
 
 constexpr double kNever = std::numeric_limits<double>::max();
-constexpr double kRelativeOutflow = 1e-10;  // to which the outflow is found where tailwater and flows depend on another
+constexpr double kRelativeOutflow = 1e-11;  // to which the outflow is found where tailwater and flows depend on another
 
 template <class... Forms>
 struct Overloaded : Forms... {
@@ -86,9 +86,17 @@ OutletFlows DamOutlets::flows(double pool, const DamErosion& erosion) const {
   free.tailwater = tailwaterOf(most);
   if (free.tailwater <= lowestThatFeelsTailwater(erosion)) return free;
   const double least = flowsAt(pool, free.tailwater, erosion).total();
+  if (least >= most) return flowsAt(pool, free.tailwater, erosion);
   const auto excess = [&](double outflow) { return outflow - flowsAt(pool, tailwaterOf(outflow), erosion).total(); };
-  const double outflow = least < most ? solveIncreasing(excess, least, most, kRelativeOutflow * most) : most;
-  return flowsAt(pool, tailwaterOf(outflow), erosion);
+  // Where the tailwater rises steeply the flows change over a sliver of the outflows: between the lowest outlet and the
+  // pool.
+  const double low = std::max(least, tailwater.lastBelow(lowestThatFeelsTailwater(erosion)));
+  const double drowned = tailwater.lastBelow(pool);
+  const double high = low < drowned && drowned < most && excess(drowned) >= 0 ? drowned : most;
+  const double outflow = low < high ? solveIncreasing(excess, low, high, kRelativeOutflow * (high - low)) : most;
+  OutletFlows agreed = flowsAt(pool, tailwaterOf(outflow), erosion);
+  if (agreed.total() > 0) agreed.scale(outflow / agreed.total());  // the last digits, which such a rise makes large
+  return agreed;
 }
 
 double DamOutlets::tailwaterOf(double outflow) const {

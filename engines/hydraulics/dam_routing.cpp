@@ -15,10 +15,12 @@ constexpr double kTailHours = 240;     // the longest that is routed behind the 
 constexpr double kEndOfBreach = 0.01;  // of its peak, below which the flow of a breach is over
 constexpr double kRising = 1e-4;       // ft from row to row
 constexpr double kOvertopped = 1e-6;   // ft
+constexpr double kLeastArea = 1.0;     // ft^2, of a pool
 constexpr std::size_t kMostErosionRows = 15000;
 constexpr double kErosionRowShare = 1.0 / 16;  // of the rows' spacing, between rows of a growing breach
-constexpr long kStepsToBegin = 10000;
-constexpr long kStepsAPoint = 20;
+constexpr double kStepsToBegin = 10000;
+constexpr double kStepsAPoint = 20;
+constexpr double kStepsARow = 4;
 
 bool sameTime(double a, double b, double spacing) {
   return std::fabs(a - b) < 1e-6 * spacing;
@@ -29,6 +31,14 @@ int eventsOf(const ErosionEvents& events) {
          events.breachCompleted.has_value();
 }
 
+// What points and rows ask for, and some more.
+long boundOnSteps(const RoutingInput& input) {
+  const double hours = input.inflow.x().back() - input.inflow.x().front() + kTailHours;
+  const double rows = std::min(hours / input.rowHours, static_cast<double>(kMostRoutingRows));
+  const double steps = kStepsToBegin + kStepsAPoint * static_cast<double>(input.inflow.size()) + kStepsARow * rows;
+  return static_cast<long>(steps / input.stepShare);
+}
+
 // Gathers a result while the pool is taken from moment to moment.
 class Routing {
  public:
@@ -37,7 +47,7 @@ class Routing {
         march_(input),
         state_(march_.start()),
         end_(input.inflow.x().back()),
-        mostSteps_(kStepsToBegin + kStepsAPoint * static_cast<long>(input.inflow.size())) {}
+        mostSteps_(boundOnSteps(input)) {}
 
   RoutingResult run() {
     notePeaks();
@@ -75,7 +85,8 @@ class Routing {
   }
 
   void notePeaks() {
-    pool_.take(state_.hours, state_.pool);
+    const double gain = (march_.inflow(state_.hours) - state_.flows.total()) * kSecondsPerHour;  // ft^3/h
+    pool_.take(state_.hours, state_.pool, gain / std::max(input_.storage.area(state_.pool), kLeastArea));
     outflow_.take(state_.hours, state_.flows.total());
     if (outflow_.peakIsNew()) result_.poolAtPeakOutflow = state_.pool;
     breach_.take(state_.hours, state_.flows.breach);
@@ -146,16 +157,30 @@ class Routing {
     return storage.elevationOf(high - (high - low) * input_.drawdown->evacuatedPercent / 100);
   }
 
+  // When the flood's own rows came down to the elevation, straight between them.
+  std::optional<double> reachedBefore(double elevation) const {
+    RoutingRow before{pool_.peak().hours, 0, pool_.peak().value, {}};
+    for (const RoutingRow& row : result_.rows) {
+      if (row.hours < before.hours) continue;
+      if (row.pool <= elevation)
+        return before.hours + passed(before.pool, row.pool, elevation) * (row.hours - before.hours);
+      before = row;
+    }
+    return std::nullopt;
+  }
+
+  // Which part of the way from one level to another below it has been gone at a level between.
+  static double passed(double from, double to, double level) {
+    return from > to ? std::clamp((from - level) / (from - to), 0.0, 1.0) : 0.0;
+  }
+
   // From the highest pool on; the flood's own rows are looked through first.
   void drawDown() {
     constexpr int kRows = 240;
     DrawdownResult& drawdown = result_.drawdown.emplace();
     drawdown.beginHours = state_.hours;
     drawdown.targetElevation = drawdownTarget();
-    for (const RoutingRow& row : result_.rows) {
-      if (drawdown.reached || row.hours < pool_.peak().hours || row.pool > drawdown.targetElevation) continue;
-      drawdown.reached = row.hours;
-    }
+    drawdown.reached = reachedBefore(drawdown.targetElevation);
     const double last = pool_.peak().hours + input_.drawdown->hours;
     const double spacing = std::max(input_.rowHours, input_.drawdown->hours / kRows);
     addRow(drawdown.rows);
@@ -167,13 +192,23 @@ class Routing {
 
   void noteTarget(const PoolState& to) {
     if (!result_.drawdown || result_.drawdown->reached || to.pool > result_.drawdown->targetElevation) return;
-    const double part = (state_.pool - result_.drawdown->targetElevation) / (state_.pool - to.pool);
+    const double part = passed(state_.pool, to.pool, result_.drawdown->targetElevation);
     result_.drawdown->reached = state_.hours + part * (to.hours - state_.hours);
+  }
+
+  // Without a breach the outflow rises and falls with the pool; at the top it is what comes in. Of the two the lower
+  // one counts: where the outlets are much too large for the reservoir, a trace of pool is a flood.
+  void takeOutflowOfHighestPool() {
+    const double ofPool = input_.outlets.flows(result_.pool.value, state_.erosion).total();
+    const double ofInflow = march_.inflow(result_.pool.hours);
+    result_.outflow = {result_.pool.hours, std::max(outflow_.greatest(), std::min(ofPool, ofInflow))};
+    result_.poolAtPeakOutflow = result_.pool.value;
   }
 
   void finish() {
     result_.pool = pool_.peak();
     result_.outflow = outflow_.peak();
+    if (breach_.peak().value <= 0) takeOutflowOfHighestPool();
     result_.breachOutflow = breach_.peak();
     result_.breachVolume = state_.throughBreach;
     result_.inflowVolume = state_.in;
@@ -190,7 +225,7 @@ class Routing {
   PoolState state_;
   double end_;
   long mostSteps_;
-  PeakFinder pool_;
+  LevelPeakFinder pool_;
   PeakFinder outflow_;
   PeakFinder breach_;
   int events_ = 0;
@@ -200,8 +235,9 @@ class Routing {
 }  // namespace
 
 double RoutingResult::balanceError() const {
-  const double moved = inflowVolume + std::max(0.0, -storageChange);
-  return moved > 0 ? std::fabs(inflowVolume - outflowVolume - storageChange) / moved : 0;
+  constexpr double kLeast = 1.0;  // ft^3, next to nothing
+  const double moved = std::max(kLeast, inflowVolume + std::max(0.0, -storageChange));
+  return std::fabs(inflowVolume - outflowVolume - storageChange) / moved;
 }
 
 double poolOfOutflow(const DamOutlets& outlets, const StageStorage& storage, double outflow) {

@@ -35,7 +35,7 @@ struct RoutingRow {
   OutletFlows flows;
 };
 
-// A greatest value and when it stood, from a parabola through the three steps around it.
+// A greatest value and when it stood, from a curve through the steps around it.
 struct RoutingPeak {
   double hours = 0;
   double value = 0;

@@ -23,4 +23,12 @@ double LinearTable::at(double x) const {
   return y_[i] + (y_[i + 1] - y_[i]) * (x - x_[i]) / (x_[i + 1] - x_[i]);
 }
 
+double LinearTable::lastBelow(double y) const {
+  const auto above = std::upper_bound(y_.begin(), y_.end(), y);
+  const auto i = static_cast<std::size_t>(above - y_.begin());
+  if (i == 0) return x_.front();
+  if (i == y_.size()) return x_.back();
+  return x_[i - 1] + (x_[i] - x_[i - 1]) * (y - y_[i - 1]) / (y_[i] - y_[i - 1]);
+}
+
 }  // namespace kestra

@@ -19,6 +19,9 @@ class LinearTable {
   bool empty() const { return x_.empty(); }
   std::size_t size() const { return x_.size(); }
   double at(double x) const;
+  // Of values that do not fall, in a table that is not empty: the last abscissa at which they are not above `y`; the
+  // first or the last one where all are above or none is.
+  double lastBelow(double y) const;
   const std::vector<double>& x() const { return x_; }
   const std::vector<double>& y() const { return y_; }
 

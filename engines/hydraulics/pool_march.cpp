@@ -62,12 +62,14 @@ DamErosion PoolMarch::eroded(const PoolState& from, double hours, double pool, c
 
 PoolState PoolMarch::stateAt(const PoolState& from, double hours, double pool, const DamErosion& erosion) const {
   PoolState to{from.hours + hours, pool, input_.outlets.flows(pool, erosion), erosion};
-  // At the floor no more runs out than comes in.
+  // At the floor no more runs out than comes in, and on the way to it what there is.
   const double outflow = to.flows.total();
   if (pool <= input_.storage.lowest() && outflow > inflow(to.hours)) to.flows.scale(inflow(to.hours) / outflow);
   const double half = 0.5 * hours * kSecondsPerHour;
   to.in = from.in + half * (inflow(from.hours) + inflow(to.hours));
-  to.out = from.out + half * (from.flows.total() + to.flows.total());
+  to.out = pool > input_.storage.lowest()
+               ? from.out + half * (from.flows.total() + to.flows.total())
+               : from.out + to.in - from.in + input_.storage.volume(from.pool) - input_.storage.volume(pool);
   to.overCrest = from.overCrest + half * (from.flows.crest + to.flows.crest);
   to.throughBreach = from.throughBreach + half * (from.flows.breach + to.flows.breach);
   return to;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "hydraulics/physical_constants.h"
+#include "hydraulics/units.h"
 
 namespace kestra {
 namespace {
@@ -11,7 +12,7 @@ constexpr double kSteepestChute = 0.40;  // ft/ft, of the tests
 }
 
 double chuteAllowable(double medianFeet, double slope) {
-  const double rock = std::pow(12 * medianFeet, 1.89);
+  const double rock = std::pow(kInchesPerFoot * medianFeet, 1.89);
   return slope < 0.10 ? 4.75e-3 * rock * std::pow(slope, -1.50) : 3.93e-2 * rock * std::pow(slope, -0.58);
 }
 
@@ -29,6 +30,19 @@ double interstitialFlow(const Riprap& riprap, double slope) {
   const double poreVelocity =
       2.48 * std::sqrt(kGravity * riprap.medianFeet) * std::pow(slope, 0.58) / std::pow(riprap.uniformity, 2.22);
   return riprap.porosity * poreVelocity * riprap.thicknessFeet;
+}
+
+double rockRoughness(double medianFeet, double slope) {
+  return 0.047 * std::pow(kInchesPerFoot * medianFeet * slope, 0.147);
+}
+
+double chuteMantleFlow(double medianFeet, double slope) {
+  constexpr double kPorosity = 0.45;
+  return kPorosity * std::sqrt(slope * kGravity * medianFeet / 4) * 2 * medianFeet;
+}
+
+double failureByOlderRule(double medianFeet, double slope) {
+  return std::pow(kInchesPerFoot * medianFeet / (5.23 * std::pow(slope, 0.43)), 1 / 0.56);
 }
 
 double riprapAllowable(const Riprap& riprap, double slope) {

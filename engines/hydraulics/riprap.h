@@ -26,6 +26,17 @@ double embankmentSurfaceAllowable(const Riprap& riprap, double slope);
 // Unit discharge through the layer: porosity times thickness times 2.48 (g D50)^0.5 S^0.58 / Cu^2.22. Same source.
 double interstitialFlow(const Riprap& riprap, double slope);
 
+// Roughness n of flow over rock, 0.047 (D50 S)^0.147, D50 in inches. Robinson, Rice and Kadavy 1998.
+double rockRoughness(double medianFeet, double slope);
+
+// Unit discharge through the mantle of a chute, twice as thick as its median rock, of porosity 0.45:
+// 0.45 (S g D50 / 4)^0.5 2 D50. After the same.
+double chuteMantleFlow(double medianFeet, double slope);
+
+// Unit discharge at which a slope of angular rock fails by an older rule, from D50 = 5.23 S^0.43 q^0.56, in and cfs/ft.
+// Abt and Johnson 1991. Told beside what is allowed; nothing is computed with it.
+double failureByOlderRule(double medianFeet, double slope);
+
 // The unit discharge that a riprapped slope is allowed, over and through the rock: what an embankment of it bears, and
 // no more than a chute of this slope, or of the steepest that was tested, bears. 0 where the rock would not lie.
 double riprapAllowable(const Riprap& riprap, double slope);

@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "hydraulics/headcut.h"
 #include "hydraulics/soil_erodibility.h"
 #include "kestrasim/given_or.h"
@@ -9,7 +12,6 @@
 namespace kestra {
 namespace {
 
-constexpr double kFaceSlope = 3;    // H:V
 constexpr double kCrestWidth = 10;  // ft
 constexpr double kBareRoughness = 0.02;
 constexpr double kUnitWeight = 120;  // lb/ft^3
@@ -68,6 +70,19 @@ void fillSoil(const HeadcutRecord& record, FillSoil& soil, RunMessages& messages
   soil.bank.undrainedStrength = *record.strength;
 }
 
+// The record that a clipped value comes from.
+Place placeOf(std::string_view name, const DamModel& dam) {
+  static constexpr std::string_view kOfTheSoil[] = {"erodibility", "critical shear stress",
+                                                    "headcut advance coefficient", "total unit weight",
+                                                    "undrained shear strength"};
+  if (name == "upstream slope") return {"UPSTREAM", dam.upstream.line};
+  if (name == "base elevation") return {"STROUTE", dam.start.line};
+  if (name == "crest width") return {"DAMCREST", dam.crest.line};
+  if (name.starts_with("crest")) return {"CRESTPRFL", dam.crestLine};
+  if (std::ranges::find(kOfTheSoil, name) != std::end(kOfTheSoil)) return {"HCMODEL", dam.headcut->line};
+  return {"DWNSTREAM", dam.downstream.line};
+}
+
 // Whether the soil is told well enough for a breach.
 bool isTold(const std::optional<HeadcutRecord>& record, RunMessages& messages) {
   constexpr const char* kNoBreach = "no breach is computed";
@@ -103,7 +118,8 @@ DamErosionInput buildErosion(const DamModel& dam, const CrestOverflow& crest, do
   input.breach = dam.options.analysis == Analysis::breach && isTold(dam.headcut, messages);
   if (input.breach) fillSoil(*dam.headcut, input.soil, messages);
   for (const ClippedValue& clipped : clipToComputable(input)) {
-    messages.warning({}, fmt::format("{} {} is beyond computing", clipped.name, shown(clipped.given)),
+    messages.warning(placeOf(clipped.name, dam),
+                     fmt::format("{} {} is beyond computing", clipped.name, shown(clipped.given)),
                      fmt::format("{} is taken", shown(clipped.used)));
   }
   return input;

@@ -7,6 +7,8 @@
 
 namespace kestra {
 
+inline constexpr double kFaceSlope = 3;  // H:V, of a face whose slope is not given
+
 // What erodes, at the lowest point of the crest; `base` is the elevation of the dam's base, ft. A breach that is asked
 // for without a usable HCMODEL is told as an error and not computed.
 DamErosionInput buildErosion(const DamModel& dam, const CrestOverflow& crest, double base, RunMessages& messages);

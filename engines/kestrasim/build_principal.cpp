@@ -83,16 +83,22 @@ PrincipalSpillway buildHood(const PipeRecords& records, const std::optional<Hood
   if (!hood->outletElevation || !isPositive(hood->toBend))
     return refuse(place, "outlet elevation or length is not given");
   if (hood->bend && (!hood->bendElevation || !hood->toOutlet)) return refuse(place, "the bend is not told whole");
+  // Loss and coefficient of the entrance stand in two records each.
+  InletRecord inletRecord = records.inlet;
+  if (!inletRecord.entranceLoss) inletRecord.entranceLoss = hood->entranceLoss;
+  CoefficientRecord coefficients = records.coefficients;
+  if (!coefficients.weir) coefficients.weir = hood->weir;
   HoodSpillway spillway;
   HoodInlet& inlet = spillway.inlet;
   inlet.invert = *records.inlet.highCrest;
-  Conduits& conduits = spillway.conduits = conduitsOf(records, messages);
+  Conduits& conduits = spillway.conduits =
+      conduitsOf({inletRecord, records.conduit, coefficients, records.circular, records.twoStage}, messages);
   conduits.outletInvert = *hood->outletElevation;
   conduits.length = hood->bend ? std::hypot(*hood->toBend, inlet.invert - *hood->bendElevation) +
                                      std::hypot(*hood->toOutlet, *hood->bendElevation - conduits.outletInvert)
                                : std::hypot(*hood->toBend, inlet.invert - conduits.outletInvert);
   inlet.weirCoefficient = dimensionalWeirCoefficient(
-      givenOr(records.coefficients.weir, kWeirCoefficient, "weir coefficient", records.coefficientPlace(), messages));
+      givenOr(coefficients.weir, kWeirCoefficient, "weir coefficient", records.coefficientPlace(), messages));
   inlet.entrance = hoodEntrance(conduits.section);
   inlet.primes = hoodPrimes(conduits, inlet.invert - conduits.outletInvert);
   if (!inlet.primes) {

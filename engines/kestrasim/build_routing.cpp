@@ -69,9 +69,30 @@ std::optional<CrestOverflow> buildCrest(const DamModel& dam, double highestHead,
   CrestSurface surface;
   surface.width = givenOr(dam.crest.width, kCrestWidth, "crest width", place, messages);
   surface.roughness = givenOr(dam.crest.retardance, kRoughness, "retardance of the crest", place, messages);
-  surface.upstreamSlope = dam.upstream.slope.value_or(0);
-  surface.upstreamRoughness = dam.upstream.retardance.value_or(surface.roughness);
+  surface.upstreamSlope = dam.upstream.slope.value_or(kFaceSlope);  // told where the section is built
+  surface.upstreamRoughness = givenOr(dam.upstream.retardance, surface.roughness, "retardance of the upstream face",
+                                      {"UPSTREAM", dam.upstream.line}, messages);
   return CrestOverflow(std::move(points), UnitDischarge::fromSurface(surface, highestHead));
+}
+
+// The pool that passes the outflow of the start.
+double poolOfStart(const DamModel& dam, const DamRun& run, RunMessages& messages) {
+  const Place place{"STROUTE", dam.start.line};
+  const RoutingInput& routing = run.routing;
+  const double outflow = std::max(0.0, *dam.start.start);
+  if (*dam.start.start < 0) {
+    messages.warning(place, fmt::format("the outflow {} of the start is below 0", shown(*dam.start.start)),
+                     "0 is taken");
+  }
+  const double top = routing.storage.highest();
+  const double pool = poolOfOutflow(routing.outlets, routing.storage, outflow);
+  const DamErosion whole(routing.erosion);
+  if (pool >= top && routing.outlets.flows(top, whole).total() < outflow) {
+    messages.warning(place,
+                     fmt::format("the outlets pass no {} cfs below the top of the storage table", shown(outflow)),
+                     fmt::format("the pool of {} is taken", shown(top)));
+  }
+  return pool;
 }
 
 double startPool(const DamModel& dam, const DamRun& run, RunMessages& messages) {
@@ -79,7 +100,7 @@ double startPool(const DamModel& dam, const DamRun& run, RunMessages& messages) 
   const StageStorage& storage = run.routing.storage;
   double pool = 0;
   if (dam.start.byOutflow && dam.start.start) {
-    pool = poolOfOutflow(run.routing.outlets, storage, std::max(0.0, *dam.start.start));
+    pool = poolOfStart(dam, run, messages);
   } else {
     pool = givenOr(dam.start.start, run.routing.outlets.lowestSpillwayCrest(), "start of the routing", place, messages);
   }

@@ -15,18 +15,19 @@ namespace {
 
 constexpr double kBalance = 1e-3;  // of the inflow, from which a difference of the volumes is told
 
-void tellRouting(const RoutingResult& result, RunMessages& messages) {
+void tellRouting(const DamModel& dam, const RoutingResult& result, RunMessages& messages) {
+  const Place structure{"STRUCTURE", dam.structure.line};
   const auto at = [](const std::optional<double>& hours) { return fmt::format("at {} hours", shown(*hours)); };
   if (result.leftStorageTable) {
-    messages.warning({"STRUCTURE"}, "the pool rose above the storage table " + at(result.leftStorageTable),
+    messages.warning(structure, "the pool rose above the storage table " + at(result.leftStorageTable),
                      "the last area goes on above it");
   }
   if (result.ranDry) {
-    messages.warning({"STRUCTURE"}, "the pool came down to the lowest row " + at(result.ranDry), "it stays there");
+    messages.warning(structure, "the pool came down to the lowest row " + at(result.ranDry), "it stays there");
   }
   if (result.leftTailwaterTable) {
-    messages.warning({"TAILWATER"}, "the outflow rose beyond the table " + at(result.leftTailwaterTable),
-                     "the last elevation stays");
+    messages.warning({"TAILWATER", dam.tailwaterLine},
+                     "the outflow rose beyond the table " + at(result.leftTailwaterTable), "the last elevation stays");
   }
   if (result.balanceError() > kBalance) {
     messages.warning({}, fmt::format("the volumes differ by {} of the inflow", shown(result.balanceError())),
@@ -60,6 +61,9 @@ HalvedSteps routeByHalves(const RoutingInput& routing, const RoutingResult& resu
   const RoutingResult again = routeDam(halves);
   const HalvedSteps halved{again.pool.value - result.pool.value,
                            100 * (again.outflow.value - result.outflow.value) / std::max(result.outflow.value, 1e-6)};
+  if (again.end == RoutingEnd::stepLimit && result.end != RoutingEnd::stepLimit) {
+    messages.warning({}, "the routing by half steps takes too many steps", "it is compared as far as it came");
+  }
   if (std::fabs(halved.poolChange) > kPool || std::fabs(halved.outflowPercent) > kOutflow) {
     messages.warning({}, "half the steps change the peaks by more than 0.01 ft or 0.5 percent",
                      "a shorter time increment will help");
@@ -80,7 +84,7 @@ DamFiles runDam(std::string_view controlText, StepCheck check) {
     return files;
   }
   const RoutingResult result = routeDam(run->routing);
-  tellRouting(result, messages);
+  tellRouting(dam, result, messages);
   tellRatings(dam, *run, result, messages);
   std::optional<HalvedSteps> halved;
   if (check == StepCheck::halved) halved = routeByHalves(run->routing, result, messages);

@@ -28,8 +28,8 @@ struct DamOptions {
   OverflowModel overflow = OverflowModel::surface;
   SlopeKind slope = SlopeKind::earth;
   bool noPrincipal = false;
-  Analysis analysis = Analysis::breach;
-  Number drawdownLevel;  // elevation or percent
+  Analysis analysis = Analysis::noBreach;  // without an OPTION, as the system counts such a file
+  Number drawdownLevel;                    // elevation or percent
   bool drawdownPercent = false;
   Number drawdownHours;
 };
@@ -129,6 +129,8 @@ struct HoodRecord {
   Number toOutlet;
   Number bendElevation;
   Number outletElevation;
+  Number weir;
+  Number entranceLoss;
 };
 
 struct CoefficientRecord {

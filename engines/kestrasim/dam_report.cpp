@@ -64,15 +64,16 @@ ColumnLine told(std::string_view words, double value, int lastColumn, int decima
 }
 
 void writePeaks(const RoutingResult& result, ReportText& out) {
+  constexpr double kLongFigure = 1e7;  // cfs, from which a figure needs more than the ten columns that readers keep
   out.line(ColumnLine()
                .words("Outflow peaked at")
                .number(result.outflow.hours, 11, 4)
                .words(" hr with")
-               .number(result.outflow.value, 13, 2)
+               .number(result.outflow.value, result.outflow.value < kLongFigure ? 10 : 13, 2)
                .words(" cfs at elevation ")
                .number(result.poolAtPeakOutflow, 10, 3)
                .words(" feet."));
-  out.line(told("Maximum pool elevation was", result.pool.value, 37, 3).words(" feet"));
+  out.line(told("Maximum pool elevation was", result.pool.value, 36, 3).words(" feet"));
   out.line(told("Highest pool at time", result.pool.hours, 41, 4).words(" hours"));
   out.line(told("Total duration of flow over top of dam:", result.overtoppingHours, 49, 4).words(" hours"));
 }
@@ -137,7 +138,7 @@ void writeResults(const DamResults& results, ReportText& out) {
   writeRouting(result, out);
   if (result.overtoppingBegins) {
     const bool riprap = run.routing.erosion.slope.surface == SlopeSurface::riprap;
-    riprap ? writeRiprap(result, out) : writeSlopeStress(result, out);
+    riprap ? writeRiprap(run, result, out) : writeSlopeStress(result, out);
   }
   writePeaks(result, out);
   writeEvents(result, crest, out);

@@ -61,7 +61,9 @@ constexpr NumberField<ConduitRecord> kConduit[] = {{"conduits", &ConduitRecord::
 constexpr NumberField<HoodRecord> kHood[] = {{"inlet to bend", &HoodRecord::toBend, kLengths},
                                              {"bend to outlet", &HoodRecord::toOutlet, kLengths},
                                              {"bend elevation", &HoodRecord::bendElevation, kElevations},
-                                             {"outlet elevation", &HoodRecord::outletElevation, kElevations}};
+                                             {"outlet elevation", &HoodRecord::outletElevation, kElevations},
+                                             {"weir inlet", &HoodRecord::weir, kCoefficients},
+                                             {"entrance loss", &HoodRecord::entranceLoss, {0, 100}}};
 constexpr NumberField<CoefficientRecord> kPipeCoefficients[] = {
     {"conduit orifice", &CoefficientRecord::orifice, kCoefficients},
     {"orifice area", &CoefficientRecord::orificeArea, {0, 1e5}},
@@ -81,7 +83,9 @@ void readOptions(const ControlRecord& record, DamOptions& options, RunMessages& 
   options.line = record.lineNumber;
   const std::string model = word(record, "model");
   options.overflow = model == "COEFF" ? OverflowModel::coefficient : OverflowModel::surface;
-  if (model != "COEFF" && model != "SIMPLE" && model != "DETAILED") {
+  if (model == "DETAILED") {
+    messages.warning(place, "a DETAILED surface is not computed", "SIMPLE is taken");
+  } else if (model != "COEFF" && model != "SIMPLE") {
     messages.warning(place, fmt::format("the surface model \"{}\" is not known", model), "SIMPLE is taken");
   }
   const std::string surface = word(record, "surface");
@@ -225,6 +229,14 @@ void tellRepeated(const ControlRecord& record, std::set<std::string_view>& seen,
                    "the last one counts");
 }
 
+// The records whose absence shows in no field that is asked for.
+void tellMissing(const std::set<std::string_view>& seen, RunMessages& messages) {
+  if (!seen.contains("KESTRA")) messages.warning({"KESTRA"}, "the record is missing", "the dam has no name");
+  if (!seen.contains("OPTION")) {
+    messages.warning({"OPTION"}, "the record is missing", "SIMPLE, EARTH and no breach are taken");
+  }
+}
+
 }  // namespace
 
 DamModel readDam(const std::vector<ControlRun>& runs, RunMessages& messages) {
@@ -239,6 +251,7 @@ DamModel readDam(const std::vector<ControlRun>& runs, RunMessages& messages) {
     const auto reader = recordReaders().find(record.layout->keyword);
     if (reader != recordReaders().end()) reader->second(record, dam, messages);
   }
+  tellMissing(seen, messages);
   for (const UnknownLine& line : main.unknown) {
     messages.warning({"", line.lineNumber}, "the line is no record", "it is passed over");
   }

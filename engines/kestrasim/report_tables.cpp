@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "hydraulics/riprap.h"
 #include "hydraulics/units.h"
 
 namespace kestra {
@@ -142,7 +143,7 @@ void writeSlopeStress(const RoutingResult& result, ReportText& out) {
   out.blankLine();
 }
 
-void writeRiprap(const RoutingResult& result, ReportText& out) {
+void writeRiprap(const DamRun& run, const RoutingResult& result, ReportText& out) {
   out.line("Flow on Riprapped Embankment Slope");
   out.line(ColumnLine().text("Time", kRating).text("Unit discharge", 18).text("Part of allowable", 20));
   out.line(ColumnLine().text("(hr)", kRating).text("(cfs/ft)", 18).text("(%)", 20));
@@ -153,6 +154,14 @@ void writeRiprap(const RoutingResult& result, ReportText& out) {
   write(*result.overtoppingBegins, 0, 0);
   write(*result.overtoppingBegins, 0, 0);
   for (const ErosionRow& row : result.erosion) write(row.timeHours, row.unitDischarge, row.slope.dischargePercent);
+  out.blankLine();
+  const Riprap& riprap = run.routing.erosion.slope.riprap;
+  const double slope = 1 / run.routing.erosion.section.downstreamSlope;
+  const auto tell = [&](std::string_view words, double unitDischarge) {
+    out.line(ColumnLine().words(words).number(unitDischarge, 12, 3).words(" cfs/ft"));
+  };
+  tell("Unit discharge that the riprap is allowed", riprapAllowable(riprap, slope));
+  tell("By the rule of Abt and Johnson it fails at", failureByOlderRule(riprap.medianFeet, slope));
   out.blankLine();
 }
 

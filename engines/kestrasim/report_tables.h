@@ -10,7 +10,7 @@ void writeRating(const DamRun& run, ReportText& out);
 void writeStorage(const DamRun& run, ReportText& out);
 void writeRouting(const RoutingResult& result, ReportText& out);
 void writeSlopeStress(const RoutingResult& result, ReportText& out);  // of a vegetated or bare slope
-void writeRiprap(const RoutingResult& result, ReportText& out);
+void writeRiprap(const DamRun& run, const RoutingResult& result, ReportText& out);
 void writeDrawdown(const RoutingResult& result, ReportText& out);
 
 }  // namespace kestra

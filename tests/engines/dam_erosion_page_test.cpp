@@ -76,14 +76,20 @@ std::string textAt(const std::string& x, double y, const std::string& text) {
   return "<text x=\"" + x + "\" y=\"" + decimalNumber(y) + "\">" + text + "</text>\n";
 }
 
+constexpr double kRowHeight = 36;
+
 std::string picture() {
-  std::string svg =
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 660 310\" font-family=\"sans-serif\" font-size=\"12\">\n"
-      "<title>Peak flow of known failures, documented and computed</title>\n"
-      "<rect width=\"660\" height=\"310\" fill=\"white\"/>\n";
+  const double bottom = 40 + kRowHeight * static_cast<double>(comparisons().size());
+  const std::string height = decimalNumber(bottom + 54);
+  std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 660 " + height +
+                    "\" font-family=\"sans-serif\" font-size=\"12\">\n"
+                    "<title>Peak flow of known failures, documented and computed</title>\n"
+                    "<rect width=\"660\" height=\"" +
+                    height + "\" fill=\"white\"/>\n";
   for (int power = 2; power <= 8; ++power) {
     const std::string x = across(std::pow(10, power));
-    svg += "<path d=\"M" + x + " 20V260\" stroke=\"#ddd\"/>\n" + textAt(x, 275, "1E" + std::to_string(power));
+    svg += "<path d=\"M" + x + " 20V" + decimalNumber(bottom + 4) + "\" stroke=\"#ddd\"/>\n" +
+           textAt(x, bottom + 19, "1E" + std::to_string(power));
   }
   double y = 40;
   for (const Comparison& row : comparisons()) {
@@ -98,10 +104,11 @@ std::string picture() {
     }
     svg += "<path d=\"M" + across(row.failure->peak) + " " + decimalNumber(y - 8) + "v24\" stroke=\"black\" " +
            "stroke-width=\"2\"/>\n";
-    y += 36;
+    y += kRowHeight;
   }
   return svg +
-         textAt("10", 300, "cfs: documented (black), energy form (blue), stress form (orange); ring: middling soil") +
+         textAt("10", bottom + 44,
+                "cfs: documented (black), energy form (blue), stress form (orange); ring: middling soil") +
          "</svg>\n";
 }
 

@@ -26,17 +26,16 @@ TEST(DamFailures, ofKnownDamsLieBetweenThoseOfTheToughestAndTheWeakestSoil) {
 }
 
 TEST(DamFailures, ofAMiddlingSoilFollowTheRegressionsWithinTheirScatter) {
-  constexpr double kScatter = 3.5;
   for (const KnownFailure& failure : kKnownFailures) {
     for (HeadcutModel model : kHeadcutModels) {
       SCOPED_TRACE(failure.name);
       const PoolOutcome outcome = failed(failure, model, kMiddling);
       const BreachedDam dam = breachedDam(failure);
-      EXPECT_LT(outcome.peakBreachFlow, froehlichPeak(dam) * kScatter);
-      EXPECT_GT(outcome.peakBreachFlow, froehlichPeak(dam) / kScatter);
+      EXPECT_LT(outcome.peakBreachFlow, froehlichPeak(dam) * failure.scatter);
+      EXPECT_GT(outcome.peakBreachFlow, froehlichPeak(dam) / failure.scatter);
       EXPECT_LT(outcome.peakBreachFlow, tr60Peak(dam) * 4);
-      EXPECT_LT(outcome.last.headcut->width, froehlichWidth(dam) * kScatter);
-      EXPECT_GT(outcome.last.headcut->width, froehlichWidth(dam) / kScatter);
+      EXPECT_LT(outcome.last.headcut->width, froehlichWidth(dam) * failure.scatter);
+      EXPECT_GT(outcome.last.headcut->width, froehlichWidth(dam) / failure.scatter);
       EXPECT_LT(outcome.volumeError, 0.005);
       EXPECT_TRUE(outcome.events.breachCompleted);
     }
@@ -53,7 +52,7 @@ TEST(DamFailures, hardlyChangeWithHalfTheStep) {
     pool.longestStep /= 2;
     pool.shareOfSuggested = 0.5;
     const PoolOutcome half = PoolRun(pool, dam).run();
-    expectWithin(whole.peakBreachFlow, half.peakBreachFlow, 0.005);
+    expectWithin(whole.peakBreachFlow, half.peakBreachFlow, 0.006);
     EXPECT_NEAR(whole.highestPool, half.highestPool, 0.01);
     expectWithin(whole.events.breachInitiated.value_or(0), half.events.breachInitiated.value_or(100), 0.01);
     EXPECT_GT(half.steps, whole.steps);

@@ -7,6 +7,7 @@
 #include "base/lines.h"
 #include "engines/dam_text.h"
 #include "kestrasim/build_routing.h"
+#include "kestrasim/dam_engine.h"
 #include "kestrasim/read_dam.h"
 
 namespace kestra {
@@ -98,6 +99,69 @@ std::vector<MessageCase> messageCases() {
                           "                    130                           5",
                           "                    120                           4", "ENDTABLE"}),
        {"***** WARNING - the elevation 120 does not rise (STRUCTURE, line 11): the row is left out"}},
+      {"negativeAreas",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100                           -1",
+                          "                    110                           -4",
+                          "                    130                           5", "ENDTABLE"}),
+       {"***** WARNING - area -1 is out of range (STRUCTURE, line 9): 0 is taken",
+        "***** WARNING - area -4 is out of range (STRUCTURE, line 10): 0 is taken",
+        "***** WARNING - the volume is that of the next row (STRUCTURE, line 9): the row is left out"}},
+      {"emptyStructure",
+       with("STRUCTURE", {"STRUCTURE Test", "ENDTABLE"}),
+       {"***** ERROR - fewer than two rows with a volume or an area (STRUCTURE, line 8): nothing is routed"}},
+      {"emptyHydrograph",
+       with("HYD", {"HYD       Flood     0.5       0         0C        ", "ENDTABLE"}),
+       {"***** ERROR - the hydrograph has fewer than two values (HYD, line 3): nothing is routed"}},
+      {"emptyCrest",
+       with("CRESTPRFL", {"CRESTPRFL", "ENDTABLE"}),
+       {"***** ERROR - the crest has no two points apart (CRESTPRFL, line 17): nothing is routed"}},
+      {"oneCrestPoint",
+       with("CRESTPRFL", {"CRESTPRFL", "          0         125", "ENDTABLE"}),
+       {"***** ERROR - the crest has no two points apart (CRESTPRFL, line 17): nothing is routed"}},
+      {"stationsFall",
+       with("CRESTPRFL", {"CRESTPRFL", "          0         127", "          250       125", "          50        125",
+                          "          300       127", "ENDTABLE"}),
+       {"***** WARNING - the station 50 does not rise (CRESTPRFL, line 20): the row is left out"}},
+      {"oneRatingRow",
+       with("ASRATING", {"ASRATING  1Bywash   0", "          122       0", "ENDTABLE"}),
+       {"***** ERROR - a rating has fewer than two rows (ASRATING, line 31): it discharges nothing"}},
+      {"emptyTailwater",
+       with("TAILWATER", {"TAILWATER", "ENDTABLE"}),
+       {"***** WARNING - no tailwater is given (TAILWATER, line 26): it is taken at the base of the dam"}},
+      {"zeroSlopes",
+       with("DWNSTREAM", {"DWNSTREAM 0         5.6       0.75      2         10        0.01"})
+           .with("UPSTREAM", {"UPSTREAM  0         5.6"}),
+       {"***** WARNING - upstream slope 0 is beyond computing (UPSTREAM, line 14): 0.05 is taken",
+        "***** WARNING - downstream slope 0 is beyond computing (DWNSTREAM, line 16): 0.05 is taken"}},
+      {"absurdMagnitudes",
+       with("DAMCREST", {"DAMCREST  1E30      5.6       1E9"}),
+       {"***** WARNING - width 1E30 is out of range (DAMCREST, line 15): 10000 is taken",
+        "***** WARNING - coefficient 1E9 is out of range (DAMCREST, line 15): 10 is taken"}},
+      {"noName", without("KESTRA"), {"***** WARNING - the record is missing (KESTRA): the dam has no name"}},
+      {"noOption",
+       without("OPTION"),
+       {"***** WARNING - the record is missing (OPTION): SIMPLE, EARTH and no breach are taken"}},
+      {"noFaces",
+       without("UPSTREAM").without("DWNSTREAM"),
+       {"***** WARNING - slope of the upstream face is not given (UPSTREAM): 3 is taken",
+        "***** WARNING - slope of the downstream face is not given (DWNSTREAM): 3 is taken",
+        "***** WARNING - retardance is not given (DWNSTREAM): 0.02 is taken",
+        "***** WARNING - vegetal cover factor is not given (DWNSTREAM): 0 is taken",
+        "***** WARNING - maintenance code is not given (DWNSTREAM): 2 is taken",
+        "***** WARNING - plasticity index is not given (DWNSTREAM): 0 is taken"}},
+      {"noUpstreamRoughness",
+       with("OPTION", {"OPTION    SIMPLE    EARTH               NOBREACH"}).with("UPSTREAM", {"UPSTREAM  3"}),
+       {"***** WARNING - retardance of the upstream face is not given (UPSTREAM, line 14): 5.6 is taken"}},
+      {"detailed",
+       with("OPTION", {"OPTION    DETAILED  EARTH               NOBREACH"}),
+       {"***** WARNING - a DETAILED surface is not computed (OPTION, line 2): SIMPLE is taken"}},
+      {"startAtTooMuch",
+       with("STROUTE", {"STROUTE   99999     100       CFS"}),
+       {"***** WARNING - the outlets pass no 99999 cfs below the top of the storage table (STROUTE, line 7): the pool "
+        "of 130 is taken"}},
+      {"startBelowNothing",
+       with("STROUTE", {"STROUTE   -5        100       CFS"}),
+       {"***** WARNING - the outflow -5 of the start is below 0 (STROUTE, line 7): 0 is taken"}},
       {"volumeMissing",
        with("STRUCTURE", {"STRUCTURE Test", "                    100                 0", "                    110",
                           "                    130                 90", "ENDTABLE"}),
@@ -192,6 +256,66 @@ std::vector<MessageCase> messageCases() {
 
 INSTANTIATE_TEST_SUITE_P(Cases, DamMessages, testing::ValuesIn(messageCases()),
                          [](const auto& tested) { return std::string(tested.param.name); });
+
+// The messages of a whole run.
+Lines messagesOfRun(const DamText& dam) {
+  Lines found;
+  const std::string report = runDam(dam.text()).report;
+  LineReader lines(report);
+  std::string_view line;
+  while (lines.next(line)) {
+    if (line.starts_with("*****")) found.emplace_back(line);
+  }
+  return found;
+}
+
+TEST(DamRuns, tellThatThePoolLeavesItsTables) {
+  DamText dam;
+  dam.with("HYD", {"HYD       Flood     1         0         0C        ", "                    0         60000     0",
+                   "ENDTABLE"});
+  const Lines messages = messagesOfRun(dam);
+  ASSERT_EQ(messages.size(), 3U);
+  EXPECT_TRUE(messages[0].starts_with("***** WARNING - the pool rose above the storage table at 0."));
+  EXPECT_TRUE(messages[0].ends_with(" hours (STRUCTURE, line 7): the last area goes on above it"));
+  EXPECT_TRUE(messages[1].starts_with("***** WARNING - the outflow rose beyond the table at 0."));
+  EXPECT_TRUE(messages[1].ends_with(" hours (TAILWATER, line 25): the last elevation stays"));
+  EXPECT_EQ(messages[2],
+            "***** WARNING - the pool rose above the rating of auxiliary spillway 1 (ASRATING, line 30): its last two "
+            "rows are carried on");
+}
+
+TEST(DamRuns, tellThatAFloodIsTooLongToBeRouted) {
+  DamText dam;
+  std::vector<std::string> rows{"HYD       Flood     90000     0         0C        "};
+  for (int i = 0; i < 30; ++i) rows.emplace_back("                    0         3000      0         3000      0");
+  rows.emplace_back("ENDTABLE");
+  dam.with("HYD", rows);
+  EXPECT_EQ(messagesOfRun(dam).back(), "***** ERROR - the routing takes too many steps: it ends where the table ends");
+}
+
+// Loss and coefficient of a hood stand in two records each: where one of them is blank, the other counts.
+TEST(DamInput, takesLossAndCoefficientOfAHoodFromEitherRecord) {
+  DamText dam;
+  dam.with("PSpINLET", {"PSpINLET                      118"});
+  dam.with("PSpDATA", {"PSpDATA   1         24                  0.013                         HD"});
+  dam.with("PSpHOOD", {"PSpHOOD   130                           101       0.7       0.9       S"});
+  dam.with("PSpCOEFFS", {"PSpCOEFFS "});
+  RunMessages messages;
+  const std::optional<DamRun> run = buildRun(readDam(readControlRecords(dam.text()), messages), messages);
+  ASSERT_TRUE(run);
+  EXPECT_EQ(messages.lines(), Lines{});
+  const auto& hood = std::get<HoodSpillway>(run->routing.outlets.principal);
+  EXPECT_EQ(hood.conduits.entranceLoss, 0.9);
+  EXPECT_EQ(hood.inlet.weirCoefficient, dimensionalWeirCoefficient(0.7));
+}
+
+TEST(DamInput, withoutAnOptionIsNotBreached) {
+  DamText dam = breachText();
+  dam.without("OPTION");
+  const DamFiles files = runDam(dam.text());
+  EXPECT_FALSE(files.breach);
+  EXPECT_FALSE(files.headcut);
+}
 
 TEST(DamInput, tellsNoMoreThanSomeOfOneRecord) {
   Lines rows{"HYD       Flood     0.5       0         0V        "};

@@ -46,6 +46,21 @@ TEST(DamOutlets, passLessUnderAHighTailwater) {
   EXPECT_LT(drowned.auxiliary[0], outlets.auxiliary[0].at(29));
 }
 
+// A slip of the pen in the tailwater: 90,000 ft from one row to the next.
+TEST(DamOutlets, agreeWithATailwaterThatRisesLikeAWall) {
+  DamOutlets outlets = sampleDam().outlets;
+  outlets.tailwater = LinearTable({0, 60, 200, 1000, 4000}, {0, 2, 90000, 90000, 90000});
+  double before = 0;
+  for (double pool = 18.5; pool < 35; pool += 0.5) {
+    const OutletFlows flows = outlets.flows(pool, wholeDam());
+    EXPECT_NEAR(flows.total(), outlets.tailwater.lastBelow(flows.tailwater), 1e-6) << pool;
+    EXPECT_GE(flows.total(), before * (1 - 1e-6)) << pool;
+    before = flows.total();
+  }
+  EXPECT_GT(before, 60);
+  EXPECT_LT(before, 61);
+}
+
 TEST(DamOutlets, needNoTailwater) {
   DamOutlets outlets = sampleDam().outlets;
   outlets.tailwater = LinearTable();

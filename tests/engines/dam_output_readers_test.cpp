@@ -1,16 +1,22 @@
 // What the system's own readers take from the files of the dam engine.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <string>
 
 #include "base/numbers.h"
 #include "base/text.h"
 #include "engines/close_to.h"
 #include "engines/dam_text.h"
+#include "engines/examples.h"
+#include "graphs/graph_catalogue.h"
 #include "kestrasim/build_routing.h"
 #include "kestrasim/dam_engine.h"
 #include "kestrasim/read_dam.h"
+#include "platform/memory_file_system.h"
 #include "results/breach_history.h"
+#include "results/dam_digest.h"
 #include "results/dam_output_reader.h"
 
 namespace kestra {
@@ -89,6 +95,89 @@ TEST(DigestOfTheDamEngine, countsItsMessages) {
   EXPECT_EQ(line(digest, 39), "1");
   EXPECT_EQ(line(digest, 40), "1");
   EXPECT_EQ(line(digest, 5), "");
+}
+
+// What a run of an example leaves, in memory, with the figures that were computed.
+struct ExampleRun {
+  explicit ExampleRun(const std::string& text) : written(runDam(text)), result(route(text)) {
+    files.put("/p/dam.KSC", text);
+    files.put("/p/dam.OUT", written.report);
+    if (written.breach) files.put("/p/dam.BRE", *written.breach);
+    if (written.headcut) files.put("/p/dam.HCT", *written.headcut);
+  }
+
+  bool overtops() const { return result.overtoppingBegins.has_value(); }
+  bool hasHeadcut() const { return result.events.headcutFormed.has_value(); }
+
+  MemoryFileSystem files;
+  DamFiles written;
+  RoutingResult result;
+};
+
+TEST(Examples, areReadBackByTheDigest) {
+  for (const auto& [name, text] : examples()) {
+    SCOPED_TRACE(name);
+    ExampleRun run(text);
+    DigestFields digest;
+    ASSERT_TRUE(ParseDamOutput(run.files, "/p/dam.KSC", digest));
+    const RoutingResult& result = run.result;
+    EXPECT_NE(line(digest, 1), "");
+    EXPECT_NEAR(figure(digest, 11), result.pool.value, 0.001);
+    EXPECT_NEAR(figure(digest, 12), result.outflow.value, 0.01);
+    EXPECT_NEAR(figure(digest, 18), result.pool.value - figure(digest, 6), 0.006);
+    EXPECT_NEAR(figure(digest, 19), result.overtoppingHours, 1e-4);
+    EXPECT_NEAR(figure(digest, 29), result.events.slopeLost.value_or(0), 1e-4);
+    EXPECT_NEAR(figure(digest, 36), result.events.breachInitiated.value_or(0), 1e-4);
+    EXPECT_NEAR(figure(digest, 37), result.events.breachCompleted.value_or(0), 1e-4);
+    EXPECT_NEAR(figure(digest, 38), result.breachWidth, 0.01);
+    EXPECT_EQ(line(digest, 39), "0");
+    double principal = 0;
+    double overDam = 0;
+    for (const RoutingRow& row : result.rows) {
+      principal = std::max(principal, row.flows.principal);
+      overDam = std::max(overDam, row.flows.overDam());
+    }
+    EXPECT_NEAR(figure(digest, 13), principal, 0.06);
+    EXPECT_NEAR(figure(digest, 17), overDam, 0.06);
+  }
+}
+
+TEST(Examples, leaveInTheDigestTheWholeFigures) {
+  for (const auto& [name, text] : examples()) {
+    ExampleRun run(text);
+    DigestFields digest;
+    ASSERT_TRUE(ParseDamOutput(run.files, "/p/dam.KSC", digest)) << name;
+    // Ten columns of the line, blanks and all, hold the figure.
+    for (const std::size_t field : {11U, 12U}) {
+      EXPECT_EQ(lenientNumber(digest[field - 1].substr(0, 10)), figure(digest, field)) << name;
+    }
+  }
+}
+
+// Whether each graph of a dam finds what it draws; those of ratings where there is a spillway to rate.
+TEST(Examples, areDrawnByEveryGraphOfADam) {
+  for (const auto& [name, text] : examples()) {
+    ExampleRun run(text);
+    const bool hasAuxiliary =
+        text.find("\nASSURFACE") != std::string::npos || text.find("\nASRATING") != std::string::npos;
+    const std::map<int, bool> expected = {{9, hasAuxiliary},
+                                          {4, run.overtops()},
+                                          {11, run.overtops()},
+                                          {18, run.hasHeadcut()},
+                                          {19, run.written.breach.has_value()}};
+    for (int number = 0; number < kGraphs; ++number) {
+      const GraphEntry& graph = graphEntry(number);
+      if (graph.read == nullptr) continue;
+      SCOPED_TRACE(name + ": " + std::string(graph.title));
+      const RunFiles runFiles(run.files, "/p/dam.KSC");
+      SeriesStore series;
+      View extents;
+      const Reading reading = graph.read({runFiles, graph.column, series, extents});
+      const auto found = expected.find(number);
+      const bool drawn = found == expected.end() || found->second;
+      EXPECT_EQ(reading.outcome == Reading::Outcome::drawn, drawn) << reading.reason;
+    }
+  }
 }
 
 }  // namespace

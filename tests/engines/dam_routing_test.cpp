@@ -59,6 +59,46 @@ TEST(RouteDam, stopsAtPointsBetweenRows) {
   EXPECT_LT(result.balanceError(), 1e-9);
 }
 
+// Half a flood's volume within a second, and then long steps: the pool is highest where the flood ends.
+TEST(RouteDam, findsThePeakOfAFloodThatEndsAtOnce) {
+  RoutingInput dam = sampleDam();
+  dam.inflow = LinearTable({0, 0.0001, 0.0002}, {0, 900000, 0});
+  dam.rowHours = 1;
+  const RoutingResult result = routeDam(dam);
+  const double volume = dam.storage.volume(18) + 900000 * 0.0001 * 3600;
+  EXPECT_NEAR(result.pool.value, dam.storage.elevationOf(volume), 0.001);
+  EXPECT_NEAR(result.pool.hours, 0.0002, 1e-6);
+  EXPECT_EQ(result.poolAtPeakOutflow, result.pool.value);
+}
+
+// Rows alone ask for more steps than a short hydrograph's points do.
+TEST(RouteDam, comesToTheEndOfAFineTableOfFewPoints) {
+  RoutingInput dam = sampleDam();
+  dam.inflow = LinearTable({0, 2, 24}, {0, 900, 0});
+  dam.rowHours = 24.0 / 10000;
+  const RoutingResult result = routeDam(dam);
+  EXPECT_EQ(result.end, RoutingEnd::complete);
+  EXPECT_GT(result.steps, 10000);
+}
+
+// A rating that opens like a gate: what comes in runs out, whatever the last digits of the pool.
+TEST(RouteDam, findsThePeakUnderARatingThatRisesLikeAWall) {
+  RoutingInput dam = sampleDam();
+  dam.outlets.auxiliary[0] = RatingCurve({25, 25.5, 40}, {0, 1e7, 1e7}, RatingCurve::Shape::straight);
+  const RoutingResult result = routeDam(dam);
+  EXPECT_LT(result.outflow.value, 3000);
+  dam.stepShare = 0.5;
+  EXPECT_TRUE(isClose(routeDam(dam).outflow.value, result.outflow.value));
+}
+
+TEST(RouteDam, findsNoFaultInTheVolumesWithoutWater) {
+  RoutingInput dam = sampleDam();
+  dam.inflow = LinearTable({0, 10}, {0, 0});
+  const RoutingResult result = routeDam(dam);
+  EXPECT_LT(result.balanceError(), 1e-4);
+  EXPECT_NEAR(result.pool.value, 18, 1e-6);
+}
+
 TEST(RouteDam, goesOnWhileThePoolRises) {
   RoutingInput dam = sampleDam();
   dam.inflow = LinearTable({0, 2}, {0, 500});
@@ -169,6 +209,32 @@ TEST(RouteDam, staysAtTheFloorOfAReservoirThatRunsDry) {
   EXPECT_TRUE(result.ranDry);
   EXPECT_EQ(result.rows.back().pool, 0);
   EXPECT_NEAR(result.rows.back().flows.total(), 10, 1e-9);
+  EXPECT_LT(result.balanceError(), 1e-9);
+}
+
+TEST(RouteDam, comesToItsEndUnderATailwaterThatRisesLikeAWall) {
+  RoutingInput dam = breachedDam();
+  dam.outlets.tailwater = LinearTable({0, 60, 200, 1000, 4000}, {0, 2, 90000, 90000, 90000});
+  const RoutingResult result = routeDam(dam);
+  EXPECT_EQ(result.end, RoutingEnd::complete);
+  EXPECT_LT(result.balanceError(), 1e-4);
+}
+
+TEST(RouteDam, endsAtItsBoundOnSteps) {
+  RoutingInput dam = sampleDam();
+  std::vector<double> hours;
+  std::vector<double> flows;
+  for (int i = 0; i < 100; ++i) {
+    hours.push_back(i * 20000.0);
+    flows.push_back(i % 2 == 0 ? 0 : 3000);
+  }
+  dam.inflow = LinearTable(hours, flows);
+  dam.rowHours = 20000;
+  const RoutingResult result = routeDam(dam);
+  EXPECT_EQ(result.end, RoutingEnd::stepLimit);
+  EXPECT_LT(result.rows.back().hours, hours.back());
+  dam.stepShare = 0.5;
+  EXPECT_GT(routeDam(dam).steps, 1.9 * static_cast<double>(result.steps));
 }
 
 TEST(RouteDam, givesTheSameTwice) {
@@ -195,6 +261,20 @@ TEST(Drawdown, reachesAnElevationAtTheTimeOfTheClosedForm) {
   ASSERT_TRUE(result.drawdown);
   ASSERT_TRUE(result.drawdown->reached);
   EXPECT_NEAR(*result.drawdown->reached * 3600, 1800, 9);
+}
+
+// Between two rows of the flood the pool is taken to fall straight.
+TEST(Drawdown, reachesAnElevationWithinTheFlood) {
+  RoutingInput dam = sampleDam();
+  dam.outlets.principal = {};
+  dam.inflow = LinearTable({0, 2, 4, 40}, {0, 3000, 0, 0});
+  const RoutingResult flood = routeDam(dam);
+  std::size_t i = flood.rows.size() - 200;
+  ASSERT_LT(flood.rows[i].pool, flood.rows[i - 1].pool);
+  dam.drawdown = DrawdownRequest{0.5 * (flood.rows[i].pool + flood.rows[i - 1].pool), 0, 240};
+  const RoutingResult result = routeDam(dam);
+  EXPECT_NEAR(result.drawdown.value().reached.value_or(0), flood.rows[i].hours - 0.5 * dam.rowHours, 1e-6);
+  EXPECT_EQ(result.drawdown->rows.size(), 1U);
 }
 
 TEST(Drawdown, byPercentIsOfTheFloodStorage) {

@@ -15,8 +15,9 @@ struct KnownFailure {
   double exponent;  // of the depth in the volume
   double length;    // ft
   double crestWidth, upstreamSlope, downstreamSlope;
-  double inflow;  // cfs
-  double peak;    // cfs, documented
+  double inflow;         // cfs
+  double peak;           // cfs, documented
+  double scatter = 3.5;  // about the regressions, of a middling soil
 };
 
 inline constexpr KnownFailure kKnownFailures[] = {
@@ -24,6 +25,8 @@ inline constexpr KnownFailure kKnownFailures[] = {
     {"South Fork 1889", 72, 11500, 2, 918, 10, 2, 1.5, 8000, 300000},
     {"Castlewood 1933", 70, 5000, 2, 600, 8, 1, 1, 10000, 126000},
     {"Kelly Barnes 1977", 40, 630, 2, 400, 20, 2, 1.5, 500, 24000},
+    {"Baldwin Hills 1963", 59, 700, 1.5, 650, 60, 2, 2, 100, 40000, 10},
+    {"Big Bay 2004", 51.3, 14200, 2, 1890, 15, 3, 3, 500, 147000},
     {"Lawn Lake 1982", 26, 674, 1.5, 500, 8, 1.5, 1.5, 300, 18000},
     {"Teton 1976", 275, 250000, 3, 3100, 35, 3, 2.5, 1000, 2.3e6},
 };

@@ -42,5 +42,30 @@ TEST(PeakFinder, makesNoMountainOfAKink) {
   EXPECT_GE(finder.peak().value, 100);
 }
 
+TEST(LevelPeakFinder, findsTheTopOfACubicBetweenTwoMoments) {
+  // z = 5 + t - t^3 / 3 rises until 1.
+  LevelPeakFinder finder;
+  for (const double t : {0.0, 0.6, 1.9, 2.0}) finder.take(t, 5 + t - t * t * t / 3, 1 - t * t);
+  EXPECT_NEAR(finder.peak().hours, 1, 1e-6);
+  EXPECT_NEAR(finder.peak().value, 5 + 2.0 / 3, 1e-9);
+}
+
+TEST(LevelPeakFinder, makesNoMountainOfAKink) {
+  LevelPeakFinder finder;
+  finder.take(0, 100, 5000);
+  finder.take(0.0002, 101, -0.5);
+  finder.take(0.25, 100.9, -0.4);
+  EXPECT_LT(finder.peak().value, 101.0001);
+  EXPECT_GE(finder.peak().value, 101);
+}
+
+TEST(LevelPeakFinder, takesTheFirstOfALevelThatFalls) {
+  LevelPeakFinder finder;
+  finder.take(2, 50, -1);
+  finder.take(3, 49, -1);
+  EXPECT_EQ(finder.peak().hours, 2);
+  EXPECT_EQ(finder.peak().value, 50);
+}
+
 }  // namespace
 }  // namespace kestra

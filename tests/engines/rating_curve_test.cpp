@@ -38,6 +38,16 @@ TEST(LinearTable, holdsItsEndValues) {
   EXPECT_EQ(LinearTable().at(3), 0);
 }
 
+TEST(LinearTable, tellsTheLastAbscissaBelowAValue) {
+  const LinearTable table({0, 10, 20, 40}, {3, 5, 5, 7});
+  EXPECT_EQ(table.lastBelow(2), 0);
+  EXPECT_EQ(table.lastBelow(4), 5);
+  EXPECT_EQ(table.lastBelow(5), 20);
+  EXPECT_EQ(table.lastBelow(6), 30);
+  EXPECT_EQ(table.lastBelow(7), 40);
+  EXPECT_EQ(table.lastBelow(9), 40);
+}
+
 TEST(IntervalOf, findsTheIntervalOrTheNearestOne) {
   const double x[] = {1, 2, 4, 8};
   EXPECT_EQ(intervalOf(x, 0), 0U);

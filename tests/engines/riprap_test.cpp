@@ -52,6 +52,33 @@ TEST(InterstitialFlow, goesThroughThePoresOfTheLayer) {
   EXPECT_EQ(interstitialFlow({1.75, 1, 2, 0}, 0.3), 0);
 }
 
+TEST(RockRoughness, isTheSameInInchesAsInMillimetres) {
+  for (const double millimetres : {15.0, 100.0, 278.0}) {
+    for (const double slope : {0.025, 0.10, 0.40}) {
+      expectWithin(rockRoughness(millimetres / 304.8, slope), 0.0292 * std::pow(millimetres * slope, 0.147),
+                   kHalfPercent);
+    }
+  }
+}
+
+TEST(ChuteMantleFlow, goesThroughAMantleOfTwoRocks) {
+  expectWithin(chuteMantleFlow(1, 0.4), 0.45 * std::sqrt(0.4 * 32.17 / 4) * 2, 1e-9);
+}
+
+TEST(FailureByOlderRule, isTheFlowOfItsRock) {
+  for (const double slope : {0.10, 0.20, 0.45}) {
+    const double q = failureByOlderRule(0.5, slope);
+    expectWithin(5.23 * std::pow(slope, 0.43) * std::pow(q, 0.56), 6, 1e-9);
+  }
+}
+
+TEST(FailureByOlderRule, liesAboveWhatIsAllowedOfMiddlingRock) {
+  for (const double slope : {0.15, 0.20, 1.0 / 3, 0.40}) {
+    EXPECT_GT(failureByOlderRule(1, slope), 0.95 * chuteAllowable(1, slope)) << slope;
+    EXPECT_LT(failureByOlderRule(1, slope), 1.6 * chuteAllowable(1, slope)) << slope;
+  }
+}
+
 TEST(RiprapAllowable, findsChuteAndEmbankmentInAgreementOnAThirdOfASlope) {
   const Riprap rock = {1.75, 1, 2, 0.45};
   const double embankment = embankmentSurfaceAllowable(rock, 1.0 / 3) + interstitialFlow(rock, 1.0 / 3);
