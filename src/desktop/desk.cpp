@@ -1,0 +1,230 @@
+#include "desktop/desk.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QEventLoop>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSettings>
+#include <QVBoxLayout>
+
+#include "desktop/qt_text.h"
+
+namespace kestra {
+namespace {
+
+constexpr int kTwipsPerInch = 1440;
+constexpr QSize kUsualSize{1180, 820};
+constexpr const char* kWindowSection = "Window";
+
+}  // namespace
+
+Desk::Desk(Application& application) : application_(application), area_(new QMdiArea(this)) {
+  setObjectName(QStringLiteral("desk"));
+  setCentralWidget(area_);
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  late_.setSingleShot(true);
+  late_.setInterval(0);
+  focusLate_.setSingleShot(true);
+  focusLate_.setInterval(0);
+  connect(&late_, &QTimer::timeout, this, [this] { arrange(); });
+  connect(&focusLate_, &QTimer::timeout, this, [this] { act([] {}); });
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { takeFocusChange(now); });
+  connect(area_, &QMdiArea::subWindowActivated, this, [this] { followMenus(); });
+  application_.host.setModalLoop(this);
+  for (Screen* screen : application_.host.screens()) screen->addObserver(*this);
+}
+
+Desk::~Desk() {
+  application_.host.setModalLoop(nullptr);
+  for (Screen* screen : application_.host.screens()) screen->removeObserver(*this);
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
+void Desk::start(const QString& commandLine) {
+  restorePlace();
+  act([this, &commandLine] { application_.shell.startUp(told(commandLine)); });
+  arrange();
+  show();
+}
+
+ScreenView& Desk::viewOf(Screen& screen) {
+  std::unique_ptr<ScreenView>& view = views_[&screen];
+  if (view == nullptr)
+    view = std::make_unique<ScreenView>(screen, [this](const std::function<void()>& action) { act(action); });
+  return *view;
+}
+
+void Desk::run(Screen& screen) {
+  Screen* const outer = std::exchange(modal_, &screen);
+  QDialog window(this);
+  const QPointer<QDialog> outerDialog = std::exchange(dialog_, &window);
+  window.installEventFilter(this);
+  window.setWindowTitle(shown(screen.title()));
+  ScreenView& view = viewOf(screen);
+  auto* const layout = new QVBoxLayout(&window);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(&view);
+  view.show();
+  QEventLoop loop;
+  view.onScreenChanged = [&screen, &loop] {
+    if (!screen.visible()) loop.quit();
+  };
+  window.setModal(true);
+  window.show();
+  followFocus();
+  if (screen.visible()) loop.exec();
+  view.onScreenChanged = nullptr;
+  view.setParent(nullptr);
+  dialog_ = outerDialog;
+  modal_ = outer;
+}
+
+void Desk::screenChanged(Screen& screen) {
+  (void)screen;
+  late_.start();
+}
+
+void Desk::closeEvent(QCloseEvent* event) {
+  act([this] { application_.host.closeByFrame(application_.shell.topScreen); });
+  if (!application_.shell.ended()) event->ignore();
+}
+
+bool Desk::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Close) return QMainWindow::eventFilter(watched, event);
+  Screen* screen = watched == dialog_ ? modal_ : nullptr;
+  for (const auto& [shownScreen, window] : windows_)
+    if (watched == window) screen = const_cast<Screen*>(shownScreen);
+  if (screen == nullptr) return false;
+  event->ignore();
+  act([this, screen] { application_.host.closeByFrame(*screen); });
+  return true;
+}
+
+void Desk::act(const std::function<void()>& action) {
+  ++depth_;
+  settle();
+  action();
+  if (--depth_ > 0) return;
+  settle();
+  arrange();
+  followFocus();
+  if (application_.shell.ended()) {
+    keepPlace();
+    QApplication::quit();
+  }
+}
+
+void Desk::settle() {
+  if (wanted_ == current_) return;
+  Control* const left = current_;
+  Control* const entered = std::exchange(wanted_, nullptr);
+  current_ = entered;
+  wanted_ = entered;
+  if (left != nullptr && left->screen().loaded()) left->userLeave();
+  const bool takenBack = application_.host.focus() == left && left != nullptr;
+  if (entered != nullptr && !takenBack && entered->screen().loaded()) entered->userFocus();
+}
+
+void Desk::followFocus() {
+  Control* const focus = application_.host.focus();
+  if (focus == nullptr || focus == current_) return;
+  QWidget* const widget = viewOf(focus->screen()).widgetOf(*focus);
+  current_ = focus;
+  wanted_ = focus;
+  if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
+}
+
+void Desk::takeFocusChange(QWidget* now) {
+  Control* const control = controlOf(now);
+  if (control == nullptr || control == wanted_) return;
+  wanted_ = control;
+  focusLate_.start();
+}
+
+void Desk::arrange() {
+  late_.stop();
+  for (Screen* screen : application_.host.screens()) {
+    if (screen != &application_.shell.topScreen && screen != modal_) place(*screen);
+  }
+  followTitle(application_.shell.topScreen);
+  const std::vector<Screen*>& front = application_.host.shown();
+  if (!front.empty() && front.front() != &application_.shell.topScreen && front.front() != modal_) {
+    QMdiSubWindow& window = windowOf(*front.front());
+    if (area_->activeSubWindow() != &window) area_->setActiveSubWindow(&window);
+  }
+  followMenus();
+}
+
+void Desk::place(Screen& screen) {
+  const auto at = windows_.find(&screen);
+  const bool there = at != windows_.end() && at->second != nullptr;
+  if (!screen.visible()) {
+    if (there) at->second->hide();
+    return;
+  }
+  QMdiSubWindow& window = windowOf(screen);
+  followTitle(screen);
+  if (window.isVisible()) return;
+  window.widget()->show();
+  window.show();
+}
+
+QMdiSubWindow& Desk::windowOf(Screen& screen) {
+  QPointer<QMdiSubWindow>& window = windows_[&screen];
+  if (window == nullptr) {
+    ScreenView& view = viewOf(screen);
+    window = area_->addSubWindow(&view);
+    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    window->installEventFilter(this);
+    if (screen.width() > 0)
+      window->resize(screen.width() * logicalDpiX() / kTwipsPerInch, screen.height() * logicalDpiY() / kTwipsPerInch);
+    const QSize fitting = window->size().expandedTo(window->sizeHint());
+    window->resize(area_->isVisible() ? fitting.boundedTo(area_->viewport()->size()) : fitting);
+  }
+  return *window;
+}
+
+void Desk::followMenus() {
+  QMenuBar* const bar = menuBar();
+  QList<QAction*> entries;
+  const auto take = [&entries](QMenuBar* menus) {
+    if (menus == nullptr) return;
+    menus->hide();
+    entries.append(menus->actions());
+  };
+  take(viewOf(application_.shell.topScreen).menus());
+  const std::vector<Screen*>& front = application_.host.shown();
+  if (!front.empty() && front.front() != &application_.shell.topScreen && front.front() != modal_)
+    take(viewOf(*front.front()).menus());
+  if (bar->actions() == entries) return;
+  for (QAction* entry : bar->actions()) bar->removeAction(entry);
+  bar->addActions(entries);
+}
+
+void Desk::followTitle(Screen& screen) {
+  const QString title = shown(screen.title());
+  if (&screen == &application_.shell.topScreen) return setWindowTitle(title);
+  windowOf(screen).setWindowTitle(title);
+}
+
+void Desk::keepPlace() {
+  SettingsStore& settings = application_.ports.settings;
+  (void)settings.set(kWindowSection, {{"geometry", told(QString::fromLatin1(saveGeometry().toBase64()))}});
+}
+
+void Desk::restorePlace() {
+  const auto& top = application_.shell.topScreen;
+  const QSize asked(top.width() * logicalDpiX() / kTwipsPerInch, top.height() * logicalDpiY() / kTwipsPerInch);
+  resize(asked.expandedTo(kUsualSize));
+  const auto kept = application_.ports.settings.get(kWindowSection, "geometry", {});
+  if (!kept.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(kept)));
+  const QRect space = screen()->availableGeometry();
+  if (!space.contains(geometry().center())) move(space.topLeft());
+}
+
+}  // namespace kestra

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+#include <memory>
+#include <unordered_map>
+
+#include "app/application.h"
+#include "desktop/screen_view.h"
+
+class QDialog;
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace kestra {
+
+// The program's frame: the top screen's menus, and a window for every screen that is on show. It does nothing but follow
+// the screens and pass on what the user does.
+class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
+ public:
+  explicit Desk(Application& application);
+  ~Desk() override;
+
+  void start(const QString& commandLine);
+  ScreenView& viewOf(Screen& screen);  // made on first use
+
+  void run(Screen& screen) override;  // modally
+
+  void screenChanged(Screen& screen) override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void act(const std::function<void()>& action);
+  void settle();       // the checks of the control that the focus has left
+  void followFocus();  // the focus goes where the screens have put it
+  void takeFocusChange(QWidget* now);
+  void arrange();  // windows as the screens are
+  void place(Screen& screen);
+  QMdiSubWindow& windowOf(Screen& screen);
+  void followMenus();
+  void followTitle(Screen& screen);
+  void keepPlace();
+  void restorePlace();
+
+  Application& application_;
+  QMdiArea* area_;
+  std::unordered_map<const Screen*, std::unique_ptr<ScreenView>> views_;
+  std::unordered_map<const Screen*, QPointer<QMdiSubWindow>> windows_;
+  Screen* modal_ = nullptr;
+  QPointer<QDialog> dialog_;
+  Control* current_ = nullptr;  // whose widget has the focus
+  Control* wanted_ = nullptr;   // whose widget has got it; its checks and those of `current_` wait
+  int depth_ = 0;               // of user actions within each other
+  QTimer late_;
+  QTimer focusLate_;
+};
+
+}  // namespace kestra
