@@ -62,14 +62,21 @@ class ActionBinding : public Binding {
   QWidget* widget() const override { return nullptr; }
   void follow(Property property) override {
     switch (property) {
-      case Property::caption: action_.setText(shown(menu_.caption())); break;
-      case Property::visible: action_.setVisible(menu_.ownVisible()); break;
-      case Property::enabled: action_.setEnabled(menu_.enabled()); break;
+      case Property::caption:
+        action_.setText(shown(menu_.caption()));
+        break;
+      case Property::visible:
+        action_.setVisible(menu_.ownVisible());
+        break;
+      case Property::enabled:
+        action_.setEnabled(menu_.enabled());
+        break;
       case Property::value:
         if (menu_.checked()) action_.setCheckable(true);
         action_.setChecked(menu_.checked());
         break;
-      default: break;
+      default:
+        break;
     }
   }
 
@@ -202,16 +209,26 @@ void Binding::followWidget(Property property) {
 
 std::unique_ptr<Binding> bindWidget(Control& control, QWidget& widget, const UserAction& act) {
   switch (control.kind()) {
-    case ControlKind::label: return join<LabelBinding, Control, QLabel>(control, widget, act);
-    case ControlKind::frame: return std::make_unique<FrameBinding>(control, widget, act);
-    case ControlKind::tabs: return join<TabsBinding, Tabs, QTabWidget>(control, widget, act);
-    case ControlKind::slider: return join<SliderBinding, Range, QAbstractSlider>(control, widget, act);
-    case ControlKind::gauge: return join<GaugeBinding, Range, QProgressBar>(control, widget, act);
-    case ControlKind::text: return bindTextBox(control, widget, act);
-    case ControlKind::table: return bindTable(control, widget, act);
-    case ControlKind::canvas: return bindCanvas(control, widget, act);
-    case ControlKind::menu: return nullptr;
-    default: return bindChoice(control, widget, act);
+    case ControlKind::label:
+      return join<LabelBinding, Control, QLabel>(control, widget, act);
+    case ControlKind::frame:
+      return std::make_unique<FrameBinding>(control, widget, act);
+    case ControlKind::tabs:
+      return join<TabsBinding, Tabs, QTabWidget>(control, widget, act);
+    case ControlKind::slider:
+      return join<SliderBinding, Range, QAbstractSlider>(control, widget, act);
+    case ControlKind::gauge:
+      return join<GaugeBinding, Range, QProgressBar>(control, widget, act);
+    case ControlKind::text:
+      return bindTextBox(control, widget, act);
+    case ControlKind::table:
+      return bindTable(control, widget, act);
+    case ControlKind::canvas:
+      return bindCanvas(control, widget, act);
+    case ControlKind::menu:
+      return nullptr;
+    default:
+      return bindChoice(control, widget, act);
   }
 }
 

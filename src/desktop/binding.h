@@ -15,8 +15,8 @@ namespace kestra {
 // focus goes where the screens have put it.
 using UserAction = std::function<void(const std::function<void()>& action)>;
 
-// Joins a control to the widget that shows it: the widget follows the control's properties, and what the user does to the
-// widget is done to the control.
+// Joins a control to the widget that shows it: the widget follows the control's properties, and what the user does to
+// the widget is done to the control.
 class Binding : public QObject {
  public:
   Binding(Control& control, UserAction act) : control_(control), act_(std::move(act)) {}

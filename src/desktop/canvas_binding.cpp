@@ -23,12 +23,18 @@ class CanvasBinding : public Binding {
   }
   bool eventFilter(QObject* watched, QEvent* event) override {
     switch (event->type()) {
-      case QEvent::MouseButtonPress: return mouse(MouseEvent::Type::down, *event);
-      case QEvent::MouseMove: return mouse(MouseEvent::Type::move, *event);
-      case QEvent::MouseButtonRelease: return mouse(MouseEvent::Type::up, *event);
-      case QEvent::MouseButtonDblClick: return mouse(MouseEvent::Type::doubleClick, *event);
-      case QEvent::KeyPress: return key(*static_cast<QKeyEvent*>(event));
-      default: return Binding::eventFilter(watched, event);
+      case QEvent::MouseButtonPress:
+        return mouse(MouseEvent::Type::down, *event);
+      case QEvent::MouseMove:
+        return mouse(MouseEvent::Type::move, *event);
+      case QEvent::MouseButtonRelease:
+        return mouse(MouseEvent::Type::up, *event);
+      case QEvent::MouseButtonDblClick:
+        return mouse(MouseEvent::Type::doubleClick, *event);
+      case QEvent::KeyPress:
+        return key(*static_cast<QKeyEvent*>(event));
+      default:
+        return Binding::eventFilter(watched, event);
     }
   }
 

@@ -56,7 +56,8 @@ class ButtonBinding : public Binding {
 
 class ComboBinding : public Binding {
  public:
-  ComboBinding(ChoiceList& choice, QComboBox& box, const UserAction& act) : Binding(choice, act), choice_(choice), box_(box) {
+  ComboBinding(ChoiceList& choice, QComboBox& box, const UserAction& act)
+      : Binding(choice, act), choice_(choice), box_(box) {
     box.setEditable(choice.editable());
     connect(&box, &QComboBox::activated, this, [this](int index) {
       this->act([this, index] { choice_.userSelect(index); });
@@ -91,8 +92,7 @@ class ListBinding : public Binding {
     connect(&list, &QListWidget::currentRowChanged, this, [this](int row) {
       if (row >= 0 && row != choice_.index()) this->act([this, row] { choice_.userSelect(row); });
     });
-    connect(&list, &QListWidget::itemActivated, this,
-            [this] { this->act([this] { choice_.userDoubleClick(); }); });
+    connect(&list, &QListWidget::itemActivated, this, [this] { this->act([this] { choice_.userDoubleClick(); }); });
   }
   QWidget* widget() const override { return &list_; }
   void follow(Property property) override {
@@ -154,11 +154,16 @@ std::unique_ptr<Binding> bindChoice(Control& control, QWidget& widget, const Use
   switch (control.kind()) {
     case ControlKind::button:
     case ControlKind::check:
-    case ControlKind::option: return join<ButtonBinding, Control, QAbstractButton>(control, widget, act);
-    case ControlKind::combo: return join<ComboBinding, ChoiceList, QComboBox>(control, widget, act);
-    case ControlKind::list: return join<ListBinding, ChoiceList, QListWidget>(control, widget, act);
-    case ControlKind::directory: return join<DirectoryBinding, DirectoryList, QTreeView>(control, widget, act);
-    default: return nullptr;
+    case ControlKind::option:
+      return join<ButtonBinding, Control, QAbstractButton>(control, widget, act);
+    case ControlKind::combo:
+      return join<ComboBinding, ChoiceList, QComboBox>(control, widget, act);
+    case ControlKind::list:
+      return join<ListBinding, ChoiceList, QListWidget>(control, widget, act);
+    case ControlKind::directory:
+      return join<DirectoryBinding, DirectoryList, QTreeView>(control, widget, act);
+    default:
+      return nullptr;
   }
 }
 

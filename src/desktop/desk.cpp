@@ -34,7 +34,7 @@ Desk::Desk(Application& application) : application_(application), area_(new QMdi
   connect(&late_, &QTimer::timeout, this, [this] { arrange(); });
   connect(&focusLate_, &QTimer::timeout, this, [this] { act([] {}); });
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { takeFocusChange(now); });
-  connect(area_, &QMdiArea::subWindowActivated, this, [this] { followMenus(); });
+  connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) { takeActivation(window); });
   application_.host.setModalLoop(this);
   for (Screen* screen : application_.host.screens()) screen->addObserver(*this);
 }
@@ -43,6 +43,8 @@ Desk::~Desk() {
   application_.host.setModalLoop(nullptr);
   for (Screen* screen : application_.host.screens()) screen->removeObserver(*this);
   disconnect(qApp, nullptr, this, nullptr);
+  disconnect(area_, nullptr, this, nullptr);
+  views_.clear();
 }
 
 void Desk::start(const QString& commandLine) {
@@ -98,7 +100,7 @@ bool Desk::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Close) return QMainWindow::eventFilter(watched, event);
   Screen* screen = watched == dialog_ ? modal_ : nullptr;
   for (const auto& [shownScreen, window] : windows_)
-    if (watched == window) screen = const_cast<Screen*>(shownScreen);
+    if (watched == window) screen = shownScreen;
   if (screen == nullptr) return false;
   event->ignore();
   act([this, screen] { application_.host.closeByFrame(*screen); });
@@ -146,8 +148,18 @@ void Desk::takeFocusChange(QWidget* now) {
   focusLate_.start();
 }
 
+void Desk::takeActivation(const QMdiSubWindow* window) {
+  if (arranging_ || window == nullptr) return;
+  for (const auto& [shownScreen, itsWindow] : windows_) {
+    Screen& screen = *shownScreen;
+    if (itsWindow != window || !screen.visible() || application_.host.shown().front() == &screen) continue;
+    return act([this, &screen] { application_.host.show(screen); });
+  }
+}
+
 void Desk::arrange() {
   late_.stop();
+  const bool outer = std::exchange(arranging_, true);
   for (Screen* screen : application_.host.screens()) {
     if (screen != &application_.shell.topScreen && screen != modal_) place(*screen);
   }
@@ -158,6 +170,7 @@ void Desk::arrange() {
     if (area_->activeSubWindow() != &window) area_->setActiveSubWindow(&window);
   }
   followMenus();
+  arranging_ = outer;
 }
 
 void Desk::place(Screen& screen) {

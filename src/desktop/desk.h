@@ -15,8 +15,8 @@ class QMdiSubWindow;
 
 namespace kestra {
 
-// The program's frame: the top screen's menus, and a window for every screen that is on show. It does nothing but follow
-// the screens and pass on what the user does.
+// The program's frame: the top screen's menus, and a window for every screen that is on show. It does nothing but
+// follow the screens and pass on what the user does.
 class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
  public:
   explicit Desk(Application& application);
@@ -38,7 +38,8 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   void settle();       // the checks of the control that the focus has left
   void followFocus();  // the focus goes where the screens have put it
   void takeFocusChange(QWidget* now);
-  void arrange();  // windows as the screens are
+  void takeActivation(const QMdiSubWindow* window);  // the user has brought a window to the front
+  void arrange();                                    // windows as the screens are
   void place(Screen& screen);
   QMdiSubWindow& windowOf(Screen& screen);
   void followMenus();
@@ -49,12 +50,13 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   Application& application_;
   QMdiArea* area_;
   std::unordered_map<const Screen*, std::unique_ptr<ScreenView>> views_;
-  std::unordered_map<const Screen*, QPointer<QMdiSubWindow>> windows_;
+  std::unordered_map<Screen*, QPointer<QMdiSubWindow>> windows_;
   Screen* modal_ = nullptr;
   QPointer<QDialog> dialog_;
   Control* current_ = nullptr;  // whose widget has the focus
   Control* wanted_ = nullptr;   // whose widget has got it; its checks and those of `current_` wait
-  int depth_ = 0;               // of user actions within each other
+  bool arranging_ = false;
+  int depth_ = 0;  // of user actions within each other
   QTimer late_;
   QTimer focusLate_;
 };

@@ -28,8 +28,8 @@ DeskOptions deskOptions(const QCoreApplication& toolkit) {
   parser.setApplicationDescription(QStringLiteral("Overtopping and breach of embankment dams."));
   parser.addHelpOption();
   parser.addVersionOption();
-  const QCommandLineOption appDirectory(QStringLiteral("app-dir"), QStringLiteral("Where the programs that it starts stand."),
-                                        QStringLiteral("DIR"));
+  const QCommandLineOption appDirectory(
+      QStringLiteral("app-dir"), QStringLiteral("Where the programs that it starts stand."), QStringLiteral("DIR"));
   const QCommandLineOption settings(QStringLiteral("settings"), QStringLiteral("The file of the settings."),
                                     QStringLiteral("FILE"));
   parser.addOptions({appDirectory, settings});

@@ -46,7 +46,8 @@ std::uint32_t numberOf(const QColor& color) {
 }
 
 QColor colorOf(std::uint32_t number) {
-  return {static_cast<int>(number & 255U), static_cast<int>(number >> 8U & 255U), static_cast<int>(number >> 16U & 255U)};
+  return {static_cast<int>(number & 255U), static_cast<int>(number >> 8U & 255U),
+          static_cast<int>(number >> 16U & 255U)};
 }
 
 QWidget* parentWindow() {
@@ -71,7 +72,9 @@ std::optional<std::vector<std::string>> QtDialogs::chooseFiles(const FileDialog&
   QFileDialog window(parentWindow(), shown(dialog.title));
   const bool save = dialog.kind == FileDialog::Kind::save;
   window.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  window.setFileMode(save ? QFileDialog::AnyFile : dialog.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+  window.setFileMode(save             ? QFileDialog::AnyFile
+                     : dialog.several ? QFileDialog::ExistingFiles
+                                      : QFileDialog::ExistingFile);
   window.setOption(QFileDialog::DontConfirmOverwrite);  // whoever asks for the name asks about that as well
   const QStringList filters = nameFilters(dialog.filter);
   window.setNameFilters(filters);
@@ -113,7 +116,8 @@ std::optional<PrintChoice> QtDialogs::choosePrint(const PrintChoice& start) {
   if (start.firstPage > 0) printer.setFromTo(start.firstPage, start.lastPage);
   QPrintDialog window(&printer, parentWindow());
   if (window.exec() != QDialog::Accepted) return std::nullopt;
-  const std::string device = told(printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName());
+  const std::string device =
+      told(printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName());
   return PrintChoice{printer.fromPage(), printer.toPage(), printer.copyCount(), device};
 }
 

@@ -3,8 +3,8 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <QVariant>
 #include <QVBoxLayout>
+#include <QVariant>
 
 #include "desktop/form_loader.h"
 #include "desktop/qt_text.h"

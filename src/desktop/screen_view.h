@@ -20,8 +20,8 @@ class ScreenView : public QWidget, public ScreenObserver {
   ~ScreenView() override;
 
   Screen& screen() const { return screen_; }
-  QWidget* widgetOf(const Control& control) const;   // null when it has none
-  QMenuBar* menus() const { return menus_; }         // null for a screen without menus
+  QWidget* widgetOf(const Control& control) const;                      // null when it has none
+  QMenuBar* menus() const { return menus_; }                            // null for a screen without menus
   const std::vector<std::string>& unbound() const { return unbound_; }  // controls that have no widget
   bool hasForm() const { return form_ != nullptr; }
 

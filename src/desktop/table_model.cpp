@@ -18,13 +18,17 @@ int TableModel::columnCount(const QModelIndex& parent) const {
 QVariant TableModel::data(const QModelIndex& index, int role) const {
   const CellPosition at = positionOf(index);
   switch (role) {
-    case Qt::DisplayRole: return shown(table_.cell(at.row, at.column));
+    case Qt::DisplayRole:
+      return shown(table_.cell(at.row, at.column));
     case Qt::TextAlignmentRole:
       if (table_.centred(at.column)) return QVariant(Qt::AlignCenter);
       return QVariant((table_.rightAligned(at.column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    case Qt::ToolTipRole: return at == marked_ ? QVariant(message_) : QVariant();
-    case Qt::BackgroundRole: return at == marked_ ? QVariant(QBrush(QColor(220, 60, 60, 90))) : QVariant();
-    default: return {};
+    case Qt::ToolTipRole:
+      return at == marked_ ? QVariant(message_) : QVariant();
+    case Qt::BackgroundRole:
+      return at == marked_ ? QVariant(QBrush(QColor(220, 60, 60, 90))) : QVariant();
+    default:
+      return {};
   }
 }
 
