@@ -41,7 +41,7 @@ std::vector<Operation> recordOperations();
 std::vector<Operation> shellOperations();
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
 std::vector<Operation> auxOperations();
-std::vector<Operation> structureOperations();
+std::vector<Operation> structureOperations();  // of the tables of the dam, its reservoir and its tailwater
 
 // Every one of them.
 const std::vector<Operation>& operations();

@@ -30,7 +30,9 @@ void Table::growTo(int rows) {
   size_.rows = rows;
   const std::size_t wanted = indexOf(rows, 0);
   if (cells_.size() < wanted) cells_.resize(wanted);
-  if (rowHeights_.size() < static_cast<std::size_t>(rows)) rowHeights_.resize(static_cast<std::size_t>(rows));
+  const auto most = std::max(rowHeights_.size(), static_cast<std::size_t>(rows));
+  rowHeights_.resize(most);
+  rowsShown_.resize(most, true);
   changed(Property::cells);
 }
 

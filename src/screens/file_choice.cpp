@@ -1,5 +1,8 @@
 #include "screens/file_choice.h"
 
+#include <algorithm>
+#include <string_view>
+
 namespace kestra {
 
 std::optional<std::string> chooseFile(Ports& ports, const FileDialog& dialog) {
@@ -13,6 +16,24 @@ std::optional<std::string> chooseNamedFile(Ports& ports, const FileDialog& dialo
   if (!file || !file->empty()) return file;
   ports.boxes.tell(noName.title, noName.text, BoxIcon::warning);
   return std::nullopt;
+}
+
+Result<std::string> readLines(Ports& ports, const std::string& path) {
+  auto read = ports.files.read(path, kReadLimit);
+  if (!read) return read;
+  std::string_view rest = read.value();
+  if (rest.starts_with("\xEF\xBB\xBF")) rest.remove_prefix(3);
+  std::string text;
+  text.reserve(rest.size());
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find('\r'), rest.size());
+    text += rest.substr(0, end);
+    rest.remove_prefix(end);
+    const std::size_t returns = std::min(rest.find_first_not_of('\r'), rest.size());
+    rest.remove_prefix(returns);
+    if (!rest.starts_with('\n')) text.append(returns, '\n');
+  }
+  return text;
 }
 
 }  // namespace kestra

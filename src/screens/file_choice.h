@@ -17,4 +17,8 @@ struct NoNameBox {
 };
 std::optional<std::string> chooseNamedFile(Ports& ports, const FileDialog& dialog, const NoNameBox& noName);
 
+// The text of a file that is read line by line, up to kReadLimit, each line ended by a line feed: a lone carriage
+// return has become one, those before a line feed are gone, and so is a byte order mark at the front.
+Result<std::string> readLines(Ports& ports, const std::string& path);
+
 }  // namespace kestra

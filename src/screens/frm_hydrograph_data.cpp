@@ -1,11 +1,8 @@
 #include "screens/frm_hydrograph_data.h"
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "base/numbers.h"
-#include "base/runtime_fault.h"
 #include "base/text.h"
 #include "controls/undo_history.h"
 #include "screens/frm_project_information.h"
@@ -30,8 +27,7 @@ TableRules rules(int values) {
 frmHydrographData::frmHydrographData(InputContext& context)
     : InputScreen(context, "frmHydrographData", "Reservoir Inflow Hydrograph Data Table",
                   "html\\HydrographDataTable.htm"),
-      editMenu(*this, context.base.ports, PointDirection::downRows,
-               [this]() -> Table& { return optConst.selected() ? grdTable : varTable; }),
+      editMenu(*this, context.base.ports, PointDirection::downRows, [this]() -> Table& { return tableOnShow(); }),
       files(*this, context),
       constantEditor_(grdTable, rules(1), context.base.ports, cmdNext),
       variableEditor_(varTable, rules(2), context.base.ports, cmdNext) {
@@ -53,6 +49,8 @@ frmHydrographData::frmHydrographData(InputContext& context)
     showForm();
     txtDesired.takeFocus();
   };
+  txtConst.onChange = [this] { bConstChanged = true; };
+  txtTitle.onChange = [this] { bTitleChanged = true; };
   txtConst.onLeave = [this] { leaveIncrement(); };
   txtDesired.onLeave = [this] { leaveDesired(); };
   txtTitle.onLeave = [this] { leaveTitle(); };
@@ -65,6 +63,18 @@ frmHydrographData::frmHydrographData(InputContext& context)
 void frmHydrographData::load() {
   setHeadings();
   for (const int column : {kHydrographTime, kHydrographFlow}) varTable.setRightAligned(column, false);
+}
+
+void frmHydrographData::unload() {
+  lastConst.clear();
+  bConstChanged = bTitleChanged = bConverted = false;
+}
+
+void frmHydrographData::clearTable() {
+  const Gesture gesture(host().history(), nullptr);
+  Table& table = tableOnShow();
+  table.clearData();
+  table.userEdited();
 }
 
 void frmHydrographData::setHeadings() {
@@ -82,12 +92,24 @@ void frmHydrographData::activate() {
     setRowNum(dt);
     setLastConst(txtConst.text());
   }
-  const frmProjectInformation* project = context_.screens.projectInformation;
-  const bool breach = project == nullptr || project->optBreachAnalysis.selected();
-  if (breach && chk10daydrawdown.checked()) chk10daydrawdown.setChecked(false);
-  Frame3.setVisible(!breach);
+  Frame3.setVisible(!breach());
+  if (breach() && chk10daydrawdown.checked()) chk10daydrawdown.setChecked(false);
   showDrawdown();
   txtTitle.takeFocus();
+}
+
+bool frmHydrographData::breach() const {
+  const frmProjectInformation* project = context_.screens.projectInformation;
+  return project == nullptr || project->optBreachAnalysis.selected();
+}
+
+// Texts have changed too, so that leaving their fields checks them.
+void frmHydrographData::undone() {
+  showForm();
+  Frame3.setVisible(!breach());
+  showDrawdown();
+  bConstChanged = txtConst.text() != lastConst;
+  bTitleChanged = true;
 }
 
 void frmHydrographData::goNext() {
@@ -128,8 +150,7 @@ void frmHydrographData::setRowNum(double dt) {
 }
 
 void frmHydrographData::renumber() {
-  const double dt = lenientNumber(txtConst.text());
-  dt > 0 ? setRowNum(dt) : fillColumn(grdTable, kHydrographTime, {});
+  txtConst.text().empty() ? fillColumn(grdTable, kHydrographTime, {}) : setRowNum(lenientNumber(txtConst.text()));
 }
 
 void frmHydrographData::setIncrement(std::string text) {
@@ -138,8 +159,9 @@ void frmHydrographData::setIncrement(std::string text) {
 }
 
 void frmHydrographData::setLastConst(const std::string& text) {
-  if (UndoHistory* history = host().history()) history->keep(lastConst_, nullptr, Property::value, false);
-  lastConst_ = text;
+  if (UndoHistory* history = host().history()) history->keep(lastConst, nullptr, Property::value, false);
+  lastConst = text;
+  bConstChanged = false;
 }
 
 void frmHydrographData::refuse(TextBox& field, const std::string& text) {
@@ -149,16 +171,17 @@ void frmHydrographData::refuse(TextBox& field, const std::string& text) {
 }
 
 void frmHydrographData::leaveIncrement() {
+  const bool changed = std::exchange(bConstChanged, false);
   if (txtConst.text().empty()) return;
   const double dt = lenientNumber(txtConst.text());
-  const double before = lenientNumber(lastConst_);
+  const double before = lenientNumber(lastConst);
   if (dt <= 0) return refuse(txtConst, "Constant time increment must greater than 0.");
-  if (dt == before) return;
+  if (!changed || dt == before) return;
   if (before <= 0) {
     setRowNum(dt);
     setLastConst(txtConst.text());
   } else if (!retime(before, dt)) {
-    txtConst.setText(lastConst_);
+    txtConst.setText(lastConst);
     txtConst.takeFocus();
   }
 }
@@ -169,91 +192,10 @@ void frmHydrographData::leaveDesired() {
 }
 
 void frmHydrographData::leaveTitle() {
-  if (charCount(txtTitle.text()) <= kTitleLength) return;
+  const bool changed = std::exchange(bTitleChanged, false);
+  if (!changed || charCount(txtTitle.text()) <= kTitleLength) return;
   dataCheck("Title cannot exceed 40 characters.");
   txtTitle.setText(std::string(charsFrom(txtTitle.text(), 0, kTitleLength)));
-}
-
-void frmHydrographData::convert() {
-  if (optConst.selected()) return convertToVariable(lenientNumber(txtConst.text()));
-  const double dtNew = lenientNumber(txtDesired.text());
-  if (dtNew <= 0 && !loadTiQiArrays(varTable).times.empty()) {
-    return refuse(txtDesired, "Time increment must greater than 0.");
-  }
-  const double dtOld = trim(txtConst.text()).empty() ? dtNew : lenientNumber(txtConst.text());
-  const double rows = std::nearbyint(1 + varTable.rows() * dtOld / dtNew);
-  convertToConstant(dtNew, std::isfinite(rows) ? static_cast<int>(std::clamp<double>(rows, 0, kMostRows)) : 0);
-}
-
-void frmHydrographData::convertHydrograph(double dt, int mode) {
-  if (mode != 1 && mode != 2) throw RuntimeFault("convertHydrograph: mode must be 1 or 2");
-  mode == 1 ? convertToVariable(dt) : convertToConstant(dt, 0);
-}
-
-void frmHydrographData::convertToVariable(double dt) {
-  const Gesture gesture(host().history(), nullptr);
-  varTable.growTo(grdTable.rows());
-  selectForm(false);
-  txtDesired.setText(tenCharacters(dt));
-  const double step = lenientNumber(txtDesired.text());
-  std::vector<std::string> times;
-  std::vector<std::string> flows;
-  for (int row = 1; row < grdTable.rows(); ++row) {
-    const std::string& flow = grdTable.cell(row, kHydrographFlow);
-    const bool filled = !trim(flow).empty();
-    times.push_back(filled ? decimalNumber((row - 1) * step) : "");
-    flows.push_back(filled ? flow : "");
-  }
-  fillColumn(varTable, kHydrographTime, times);
-  fillColumn(varTable, kHydrographFlow, flows);
-  varTable.userEdited();
-}
-
-void frmHydrographData::convertToConstant(double dt, int rows) {
-  const Gesture gesture(host().history(), nullptr);
-  ResampledHydrograph resampled;
-  if (!resample(dt, loadTiQiArrays(varTable), resampled)) return;
-  grdTable.growTo(rows);
-  selectForm(true);
-  setIncrement(tenCharacters(resampled.step));
-  takeFlows(resampled);
-}
-
-void frmHydrographData::retimeHydrograph(double oldDt, double newDt) {
-  retime(oldDt, newDt);
-}
-
-bool frmHydrographData::retime(double oldDt, double newDt) {
-  const Gesture gesture(host().history(), nullptr);
-  ResampledHydrograph resampled;
-  if (!resample(newDt, constantPoints(grdTable, oldDt), resampled)) return false;
-  const bool shown = lenientNumber(txtConst.text()) == resampled.step;
-  setIncrement(shown ? txtConst.text() : tenCharacters(resampled.step));
-  takeFlows(resampled);
-  return true;
-}
-
-bool frmHydrographData::resample(double dt, const HydrographPoints& points, ResampledHydrograph& result) {
-  try {
-    result = resampleHydrograph(dt, points);
-    return true;
-  } catch (const RuntimeFault& fault) {
-    context_.base.ports.boxes.tell("Hydrograph Error", fault.what(), BoxIcon::warning);
-    return false;
-  }
-}
-
-// Fills the constant-time table; the times are those of the step that the user sees.
-void frmHydrographData::takeFlows(const ResampledHydrograph& resampled) {
-  if (resampled.flows.size() > static_cast<std::size_t>(kMostHydrographPoints)) {
-    const std::string count = std::to_string(resampled.flows.size());
-    context_.base.ports.boxes.tell("Hydrograph Error",
-                                   "Too many points. Hydrograph truncated from " + count + " to 5000 points.",
-                                   BoxIcon::warning);
-  }
-  fillFlows(grdTable, resampled.flows);
-  setRowNum(lenientNumber(txtConst.text()));
-  grdTable.userEdited();
 }
 
 }  // namespace kestra

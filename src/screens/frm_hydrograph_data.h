@@ -55,6 +55,12 @@ class frmHydrographData : public InputScreen {
   EditMenu editMenu;  // of the table on show
   HydrographFiles files;
 
+  std::string lastConst;       // the last accepted text of txtConst
+  bool bConstChanged = false;  // the user has changed txtConst since it was last looked at
+  bool bTitleChanged = false;  // likewise txtTitle
+  bool bConverted = false;     // a conversion has been made
+
+  void clearTable();  // blanks the cells of the table on show; the cursor goes to the first of them
   // Writes the time column of grdTable: 0, dt, 2 dt, ... hours.
   void setRowNum(double dt);
   // Mode 1: the constant-time table becomes a variable-time one, dt being its step. Mode 2: the reverse, dt being the
@@ -65,7 +71,7 @@ class frmHydrographData : public InputScreen {
 
   void selectForm(bool constant);       // selects the option of the form and shows what belongs to it
   void setIncrement(std::string text);  // of txtConst, as one that has been accepted
-  void renumber();                      // times by txtConst; none where it holds no step
+  void renumber();                      // times by txtConst; none where it is empty
   void setHeadings();
   void setHydrographCode(const std::string& code) { hydrographCode_ = code; }  // from frmHydrographSelect
   const std::string& hydrographCode() const { return hydrographCode_; }
@@ -73,12 +79,15 @@ class frmHydrographData : public InputScreen {
  protected:
   void load() override;
   void activate() override;
-  void unload() override { lastConst_.clear(); }
+  void unload() override;
   void goNext() override;
   void goPrevious() override { moveTo("frmStructureTable"); }
+  void undone() override;
 
  private:
-  void showForm();  // what belongs to the selected option
+  Table& tableOnShow() { return optConst.selected() ? grdTable : varTable; }
+  bool breach() const;  // whether the dam may breach
+  void showForm();      // what belongs to the selected option
   void showDrawdown();
   void convert();
   void convertToVariable(double dt);
@@ -95,7 +104,6 @@ class frmHydrographData : public InputScreen {
 
   TableEditor constantEditor_;
   TableEditor variableEditor_;
-  std::string lastConst_;  // the last accepted text of txtConst
   std::string hydrographCode_;
 };
 

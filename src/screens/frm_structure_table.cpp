@@ -38,9 +38,13 @@ frmStructureTable::frmStructureTable(InputContext& context)
 
 void frmStructureTable::load() {
   for (int i = 0; i < 4; ++i) grdTable.setCell(0, i + 1, kHeadings[i]);
-  numberRows(grdTable);
+  setRowNum();
   setColWidth();
   setRowHeight();
+}
+
+void frmStructureTable::setRowNum() {
+  numberRows(grdTable);
 }
 
 void frmStructureTable::setColWidth() {
@@ -55,11 +59,20 @@ void frmStructureTable::setRowHeight() {
   grdTable.setRowHeight(0, 560);
 }
 
+void frmStructureTable::clearTable() {
+  const Gesture gesture(host().history(), nullptr);
+  grdTable.clearData();
+  grdTable.userEdited();
+}
+
 void frmStructureTable::activate() {
+  showStart();
+  if (!optCFS.visible() && !optFEET.selected()) optFEET.setSelected(true);
+}
+
+void frmStructureTable::showStart() {
   const frmProjectInformation* project = context_.screens.projectInformation;
-  const bool byDischarge = project != nullptr && project->optNoBreachAnalysis.selected();
-  optCFS.setVisible(byDischarge);
-  if (!byDischarge && !optFEET.selected()) optFEET.setSelected(true);
+  optCFS.setVisible(project != nullptr && project->optNoBreachAnalysis.selected());
 }
 
 void frmStructureTable::mnuImportTorve_Click() {
@@ -67,7 +80,7 @@ void frmStructureTable::mnuImportTorve_Click() {
   const auto file = chooseNamedFile(ports, dialog(FileDialog::Kind::open, "Open File", kTorveFilter),
                                     {"Open File", "No filename provided."});
   if (!file) return;
-  const auto text = ports.files.read(*file, kReadLimit);
+  const auto text = readLines(ports, *file);
   if (!text) return;
   if (const auto rating = readTorveRating(text.value())) takeRows(*rating);
 }
@@ -76,7 +89,7 @@ void frmStructureTable::mnuOpen_Click() {
   Ports& ports = context_.base.ports;
   const auto name = chooseNamedFile(ports, dialog(FileDialog::Kind::open, "Select a file", kStructureFilter), kNoFile);
   if (!name) return;
-  const auto text = ports.files.read(*name, kReadLimit);
+  const auto text = readLines(ports, *name);
   if (!text) return;
   const auto file = readStructureFile(text.value());
   if (!file) {
@@ -97,7 +110,7 @@ void frmStructureTable::mnuImport_Click() {
   Ports& ports = context_.base.ports;
   const auto file = chooseNamedFile(ports, dialog(FileDialog::Kind::open, "Select a file", kTextFilter), kNoFile);
   if (!file) return;
-  const auto text = ports.files.read(*file, kReadLimit);
+  const auto text = readLines(ports, *file);
   if (text) takeRows(readStructureTabs(text.value(), static_cast<std::size_t>(grdTable.rows() - 1)));
 }
 
@@ -121,7 +134,7 @@ std::vector<StructureRow> frmStructureTable::rows() const {
 
 void frmStructureTable::takeRows(const std::vector<StructureRow>& taken) {
   const Gesture gesture(host().history(), nullptr);
-  grdTable.clearData();
+  clearTable();
   int row = 1;
   for (const StructureRow& texts : taken) {
     for (int value = 0; value < 4; ++value) grdTable.setCell(row, value + 1, texts[static_cast<std::size_t>(value)]);

@@ -39,15 +39,20 @@ class frmStructureTable : public InputScreen {
   void mnuExport_Click();
   void saveStructureTable(const std::string& fileName);
 
+  void clearTable();    // blanks all cells but the headings; the cursor goes to the first of them
+  void setRowNum();     // point numbers before the rows
+  void setColWidth();   // 1750 twips and centred, 500 for the numbers
+  void setRowHeight();  // 560 twips for the headings
+
  protected:
   void load() override;
   void activate() override;
   void goNext() override { moveTo("frmHydrographData"); }
   void goPrevious() override { moveTo("frmDamSurface"); }
+  void undone() override { showStart(); }
 
  private:
-  void setColWidth();
-  void setRowHeight();
+  void showStart();                                       // the options that the analysis leaves
   std::vector<StructureRow> rows() const;                 // all data rows
   void takeRows(const std::vector<StructureRow>& taken);  // blanks the table and fills it from row 1 on
 

@@ -22,6 +22,8 @@ constexpr const char* kTextFilter = "All Files (*.*)|*.*| Text Files (*.txt)|*.t
 constexpr const char* kTorveFilter = "All Files (*.*)|*.*| Hydrograph Files (*.VHY)|*.VHY";
 constexpr const char* kThyFilter = "All Files (*.*)|*.*|Hydrograph Data Files (*.THY)|*.THY";
 constexpr const char* kTabFilter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
+constexpr const char* kNoHydrograph = "The file holds no hydrograph.";
+constexpr const char* kNoPoints = "The record holds no points.";
 constexpr int kVhyColumn = 1;  // the files do not tell theirs
 
 std::size_t pointsOf(const Table& table) {
@@ -32,6 +34,11 @@ std::vector<std::string> textsOf(const std::vector<HydrographRow>& rows, std::st
   std::vector<std::string> texts;
   for (const HydrographRow& row : rows) texts.push_back(row.*text);
   return texts;
+}
+
+bool holdsPoints(const std::vector<HydrographRow>& rows) {
+  const auto filled = [](const HydrographRow& row) { return !trim(row.time).empty() || !trim(row.flow).empty(); };
+  return std::any_of(rows.begin(), rows.end(), filled);
 }
 
 }  // namespace
@@ -56,9 +63,9 @@ HydrographFiles::HydrographFiles(frmHydrographData& screen, InputContext& contex
 }
 
 std::optional<HydrographFiles::TextFile> HydrographFiles::readText(const std::string& path, const std::string& trap) {
-  auto text = context_.base.ports.files.read(path, kReadLimit);
-  if (text) return TextFile{trap, std::move(text).value()};
-  tellFault(trap, path + ": " + text.failure().reason);
+  auto text = readLines(context_.base.ports, path);
+  if (text) return TextFile{path, trap, std::move(text).value()};
+  warn(trap, path + ": " + text.failure().reason);
   return std::nullopt;
 }
 
@@ -70,8 +77,13 @@ std::optional<HydrographFiles::TextFile> HydrographFiles::chooseText(const Menu&
   return readText(*path, (isTab ? "Import Tab-delimited Text" : command.caption()) + " File Error");
 }
 
-void HydrographFiles::tellFault(const std::string& trap, const std::string& fault) {
-  if (!fault.empty()) context_.base.ports.boxes.tell(trap, fault, BoxIcon::warning);
+void HydrographFiles::warn(const std::string& title, const std::string& text) {
+  context_.base.ports.boxes.tell(title, text, BoxIcon::warning);
+}
+
+bool HydrographFiles::tellFault(const TextFile& file, const std::string& fault) {
+  if (!fault.empty()) warn(file.trap, file.path + ", " + fault);
+  return !fault.empty();
 }
 
 void HydrographFiles::takeVariable(const std::vector<HydrographRow>& rows) {
@@ -79,7 +91,14 @@ void HydrographFiles::takeVariable(const std::vector<HydrographRow>& rows) {
   Table& table = screen_.varTable;
   fillColumn(table, kHydrographTime, textsOf(rows, &HydrographRow::time));
   fillColumn(table, kHydrographFlow, textsOf(rows, &HydrographRow::flow));
-  screen_.setIncrement("");
+  table.userEdited();
+}
+
+void HydrographFiles::takeConstant(const std::vector<std::string>& flows, bool ended) {
+  screen_.selectForm(true);
+  Table& table = screen_.grdTable;
+  fillColumn(table, kHydrographFlow, flows);
+  ended ? fillColumn(table, kHydrographTime, {}) : screen_.renumber();
   table.userEdited();
 }
 
@@ -87,18 +106,26 @@ void HydrographFiles::importClocked(const Menu& command, ClockedReader read) {
   const auto file = chooseText(command, kTextFilter);
   if (!file) return;
   const auto hydrograph = read(file->text, pointsOf(screen_.varTable));
-  if (!hydrograph) return tellFault("File Import Error", "Invalid tab-delimited Rivex File");
+  if (!hydrograph) return warn("File Import Error", "Invalid tab-delimited Rivex File");
+  if (hydrograph->rows.empty() && hydrograph->fault.empty()) return warn(file->trap, kNoHydrograph);
   takeVariable(hydrograph->rows);
+  if (tellFault(*file, hydrograph->fault)) return;
   for (const int column : {kHydrographTime, kHydrographFlow}) screen_.varTable.setRightAligned(column, true);
   screen_.txtStartTime.setText("0.0");
+  screen_.setIncrement("");
   screen_.txtTitle.setText(hydrograph->title);
-  tellFault(file->trap, hydrograph->fault);
   screen_.txtTitle.takeFocus();
 }
 
 void HydrographFiles::importTab() {
   const auto file = chooseText(mnuImportTab, kTextFilter);
-  if (file) takeVariable(readTabRows(file->text, kMostHydrographPoints));
+  if (!file) return;
+  std::string fault;
+  const std::vector<HydrographRow> rows = readTabRows(file->text, kMostHydrographPoints, &fault);
+  takeVariable(rows);
+  if (tellFault(*file, fault)) return;
+  if (!holdsPoints(rows)) warn(file->trap, kNoHydrograph);
+  screen_.setIncrement("");
 }
 
 std::optional<std::string> HydrographFiles::chooseEntry(std::vector<std::string> entries) {
@@ -114,19 +141,20 @@ std::optional<std::string> HydrographFiles::chooseEntry(std::vector<std::string>
 
 void HydrographFiles::importQt40() {
   const auto file = chooseText(mnuImportQT40, kTextFilter);
-  if (!file || !chooseEntry(qt40Headers(file->text))) return;
+  if (!file) return;
+  std::vector<std::string> headers = qt40Headers(file->text);
+  if (headers.empty()) return warn(file->trap, kNoHydrograph);
+  if (!chooseEntry(std::move(headers))) return;
   const int hydrographSelected = context_.screens.hydrographSelect->List1.index();
   const Qt40Hydrograph hydrograph =
       readQt40(file->text, static_cast<std::size_t>(std::max(hydrographSelected, 0)), kMostHydrographPoints);
+  if (hydrograph.flows.empty() && hydrograph.fault.empty()) return warn(file->trap, kNoPoints);
   screen_.txtTitle.setText(hydrograph.title);
   screen_.txtStartTime.setText(hydrograph.startTime);
   screen_.setIncrement(hydrograph.increment);
-  screen_.selectForm(true);
   screen_.setHeadings();
-  fillColumn(screen_.grdTable, kHydrographFlow, hydrograph.flows);
-  screen_.renumber();
-  screen_.grdTable.userEdited();
-  tellFault(file->trap, hydrograph.fault);
+  takeConstant(hydrograph.flows, !hydrograph.fault.empty());
+  tellFault(*file, hydrograph.fault);
 }
 
 void HydrographFiles::importTorve() {
@@ -134,8 +162,7 @@ void HydrographFiles::importTorve() {
   if (!file) return;
   const VhyContent content = scanVhy(file->text);
   if (content.isThy) {
-    takeThy(file->text);
-    context_.base.host.show(screen_);
+    if (takeThy(*file)) context_.base.host.show(screen_);
     return;
   }
   std::vector<std::string> names;
@@ -152,34 +179,38 @@ void HydrographFiles::importTorve() {
 void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
   const VhyHydrograph hydrograph = readVhy(file.text, code, kVhyColumn, kMostHydrographPoints);
   if (hydrograph.rows.empty()) {
-    return tellFault(file.trap, hydrograph.fault.empty() ? "The record holds no points." : hydrograph.fault);
+    if (!tellFault(file, hydrograph.fault)) warn(file.trap, kNoPoints);
+    return;
   }
-  takeVariable(hydrograph.rows);
-  screen_.selectForm(true);
-  fillColumn(screen_.grdTable, kHydrographFlow, textsOf(hydrograph.rows, &HydrographRow::flow));
+  const bool ended = !hydrograph.fault.empty();
   screen_.txtStartTime.setText(hydrograph.startTime);
-  screen_.txtTitle.setText("");
-  screen_.txtDesired.setText(hydrograph.increment);
-  screen_.setIncrement(hydrograph.increment);
-  screen_.renumber();
-  tellFault(file.trap, hydrograph.fault);
-  context_.base.host.show(screen_);
+  takeVariable(hydrograph.rows);
+  if (!ended) {
+    screen_.txtDesired.setText(hydrograph.increment);
+    screen_.setIncrement(hydrograph.increment);
+    screen_.txtTitle.setText("");
+  }
+  takeConstant(textsOf(hydrograph.rows, &HydrographRow::flow), ended);
+  if (!tellFault(file, hydrograph.fault)) context_.base.host.show(screen_);
 }
 
-void HydrographFiles::takeThy(std::string_view text) {
-  const auto hydrograph = readThy(text);
-  if (!hydrograph) return;
-  screen_.selectForm(true);
+// A record without points empties the table: so an empty table was written.
+bool HydrographFiles::takeThy(const TextFile& file) {
+  const auto hydrograph = readThy(file.text);
+  if (!hydrograph) {
+    warn(file.trap, kNoHydrograph);
+    return false;
+  }
   if (hydrograph->title) screen_.txtTitle.setText(*hydrograph->title);
   screen_.setIncrement(hydrograph->increment);
-  fillColumn(screen_.grdTable, kHydrographFlow, hydrograph->flows);
-  screen_.renumber();
-  screen_.grdTable.userEdited();
+  takeConstant(hydrograph->flows, !hydrograph->fault.empty());
+  if (hydrograph->flows.empty() && hydrograph->fault.empty()) warn(file.trap, kNoPoints);
+  return !tellFault(file, hydrograph->fault);
 }
 
 void HydrographFiles::LoadHydrographForms(const std::string& fileName) {
   const Gesture gesture(context_.base.host.history(), nullptr);
-  if (const auto file = readText(fileName, "Import TORVE File Error")) takeThy(file->text);
+  if (const auto file = readText(fileName, "Import TORVE File Error")) takeThy(*file);
 }
 
 void HydrographFiles::SaveTable(const std::string& fileName) {
@@ -192,7 +223,7 @@ void HydrographFiles::SaveTable(const std::string& fileName) {
 
 void HydrographFiles::write(const std::string& path, std::string_view text) {
   const Status written = writeWholeFile(context_.base.ports.files, path, text);
-  if (!written) tellFault("Export File Error", written.failure().path + ": " + written.failure().reason);
+  if (!written) warn("Export File Error", written.failure().path + ": " + written.failure().reason);
 }
 
 // Only a hydrograph at constant steps has this form; the user is asked for a name all the same.

@@ -13,8 +13,10 @@ namespace kestra {
 
 class frmHydrographData;
 
-// The import and export commands of the hydrograph screen. A file that cannot be read, or written, is told in a box and
-// changes nothing; a value that is none ends an import with a box and the rows before it.
+// The import and export commands of the hydrograph screen. A file that cannot be read, or written, or holds no
+// hydrograph is told in a box and changes nothing (a .VHY file without a known record: no box; two columns of text
+// without a row: the table is emptied). A value that is none ends an import with a box: the form is switched and the
+// rows before the value stay; what an import does behind its rows is left out.
 class HydrographFiles {
  public:
   HydrographFiles(frmHydrographData& screen, InputContext& context);
@@ -27,11 +29,12 @@ class HydrographFiles {
   Menu mnuExport;  // constant-time hydrographs only
   Menu mnuExportTab;
 
-  void LoadHydrographForms(const std::string& fileName);  // a .THY file
+  void LoadHydrographForms(const std::string& fileName);  // a .THY file; times are numbered
   void SaveTable(const std::string& fileName);            // the constant-time table as a .THY file
 
  private:
   struct TextFile {
+    std::string path;
     std::string trap;  // title of the box over a failure
     std::string text;
   };
@@ -50,9 +53,12 @@ class HydrographFiles {
   void write(const std::string& path, std::string_view text);
   // The code that the user chooses among entries, shown modally; nothing when he chooses none.
   std::optional<std::string> chooseEntry(std::vector<std::string> entries);
-  void takeThy(std::string_view text);
+  bool takeThy(const TextFile& file);  // false: there was something to tell
   void takeVariable(const std::vector<HydrographRow>& rows);
-  void tellFault(const std::string& trap, const std::string& fault);
+  // Takes discharges at the steps of txtConst; an import that has ended at a fault leaves them without times.
+  void takeConstant(const std::vector<std::string>& flows, bool ended);
+  bool tellFault(const TextFile& file, const std::string& fault);  // false: there is none
+  void warn(const std::string& title, const std::string& text);
 
   frmHydrographData& screen_;
   InputContext& context_;

@@ -6,6 +6,7 @@
 #include "base/lines.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "screens/hydrograph_fault.h"
 
 namespace kestra {
 namespace {
@@ -28,19 +29,26 @@ bool nextHeader(LineReader& lines, std::string_view& line) {
   return true;
 }
 
-// Adds the discharges of a row; false at one that is no number.
-bool takeRow(std::string_view line, double baseFlow, std::size_t mostFlows, Qt40Hydrograph& hydrograph) {
+// Adds the discharges of a row, up to one that is no number, which it tells as a fault.
+void takeRow(const LineReader& lines, std::string_view line, double baseFlow, std::size_t mostFlows,
+             Qt40Hydrograph& hydrograph) {
   for (int column = 21; column <= 61 && hydrograph.flows.size() < mostFlows; column += kFieldWidth) {
     const std::string_view field = trim(columns(line, column, kFieldWidth));
     if (field.empty()) continue;
     const std::optional<double> value = realNumber(field);
     if (!value) {
-      hydrograph.fault = "\"" + std::string(field) + "\" is no discharge.";
-      return false;
+      hydrograph.fault = fieldFault(lines.lineNumber(), field, "discharge");
+      return;
     }
     hydrograph.flows.push_back(decimalNumber(*value + baseFlow, 12));
   }
-  return true;
+}
+
+// A field of the header that is no number is told, unless another fault is, and left out.
+void dropIfNoNumber(std::string& field, std::size_t line, const std::string& wanted, std::string& fault) {
+  if (isNumberOrBlank(field)) return;
+  if (fault.empty()) fault = fieldFault(line, field, wanted);
+  field.clear();
 }
 
 }  // namespace
@@ -63,10 +71,15 @@ Qt40Hydrograph readQt40(std::string_view text, std::size_t index, std::size_t mo
   hydrograph.title = trimmed(line, 11, kFieldWidth);
   hydrograph.startTime = trimmed(line, 41, kFieldWidth);
   hydrograph.increment = trimmed(line, 51, kFieldWidth);
-  const double baseFlow = charCount(line) > 70 ? lenientNumber(columns(line, 71, kFieldWidth)) : 0.0;
-  while (hydrograph.flows.size() < mostFlows && lines.next(line) && trim(columns(line, 1, 20)).empty()) {
-    if (!takeRow(line, baseFlow, mostFlows, hydrograph)) break;
+  const std::string baseFlow = charCount(line) > 70 ? trimmed(line, 71, kFieldWidth) : std::string();
+  const std::size_t header = lines.lineNumber();
+  if (!isNumberOrBlank(baseFlow)) hydrograph.fault = fieldFault(header, baseFlow, "base flow");
+  while (hydrograph.fault.empty() && hydrograph.flows.size() < mostFlows && lines.next(line) &&
+         trim(columns(line, 1, 20)).empty()) {
+    takeRow(lines, line, lenientNumber(baseFlow), mostFlows, hydrograph);
   }
+  dropIfNoNumber(hydrograph.startTime, header, "start time", hydrograph.fault);
+  dropIfNoNumber(hydrograph.increment, header, "time increment", hydrograph.fault);
   return hydrograph;
 }
 

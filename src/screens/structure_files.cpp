@@ -16,11 +16,12 @@ constexpr std::size_t kRowsWritten = 20;
 constexpr std::size_t kRatingRows = 20;
 
 struct StructureField {
-  std::size_t value;  // of a row, from 0
-  int column;         // of the line, from 1
+  std::size_t value;    // of a row, from 0
+  int column;           // of the line, from 1
+  std::size_t written;  // characters, up to the next field
 };
-constexpr StructureField kFields[] = {{0, 21}, {3, 31}, {1, 41}, {2, 61}};
-constexpr int kFieldWidth = 10;
+constexpr StructureField kFields[] = {{0, 21, 10}, {3, 31, 10}, {1, 41, 20}, {2, 61, std::string_view::npos}};
+constexpr int kWidthRead = 10;
 
 struct RatingField {
   std::size_t longerThan;  // characters that the line has to exceed
@@ -35,7 +36,7 @@ std::string trimmed(std::string_view line, int column, int width) {
 
 StructureRow structureRow(std::string_view line) {
   StructureRow row;
-  for (const auto& [value, column] : kFields) row[value] = trimmed(line, column, kFieldWidth);
+  for (const StructureField& field : kFields) row[field.value] = trimmed(line, field.column, kWidthRead);
   return row;
 }
 
@@ -51,8 +52,8 @@ StructureRow ratingRow(std::string_view line) {
 std::string structureLine(const StructureRow& row) {
   std::string line;
   std::size_t length = 0;
-  for (const auto& [value, column] : kFields) {
-    const std::string_view text = charsFrom(row[value], 0, kFieldWidth);
+  for (const auto& [value, column, written] : kFields) {
+    const std::string_view text = charsFrom(row[value], 0, written);
     if (text.empty()) continue;
     line.append(static_cast<std::size_t>(column - 1) - length, ' ').append(text);
     length = static_cast<std::size_t>(column - 1) + charCount(text);

@@ -13,7 +13,8 @@ namespace kestra {
 using StructureRow = std::array<std::string, 4>;
 
 // A structure-table file (.STR): "STRUCTURE" at column 1 with the identifier from 11 on; a line a point with elevation
-// at 21, surface area at 31, discharge at 41 and storage at 61, ten columns each; "ENDTABLE" at 1.
+// at 21, surface area at 31, discharge at 41 and storage at 61; "ENDTABLE" at 1. Ten columns of a field are read;
+// written is the whole text, up to where the next field begins.
 struct StructureFile {
   std::optional<std::string> identifier;  // nothing when the first line ends before it; read: 5 characters
   std::vector<StructureRow> rows;         // read: 21 at most

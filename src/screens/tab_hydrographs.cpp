@@ -6,6 +6,7 @@
 #include "base/lines.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "screens/hydrograph_fault.h"
 
 namespace kestra {
 namespace {
@@ -14,8 +15,9 @@ constexpr std::size_t kTitleLength = 40;
 constexpr long long kMinutesADay = 24 * 60;
 constexpr long long kHhmmADay = 2400;
 
-// A line of data: what its clock shows, in the unit of its format, and its discharge.
+// A line of data: its date and time, what the clock shows in the unit of its format, and its discharge.
 struct ClockedFlow {
+  std::string stamp;
   std::optional<long long> clock;
   std::string flow;
 };
@@ -44,20 +46,23 @@ std::optional<long long> digitsOnly(std::string_view text) {
 }
 
 ClockedFlow readBasixLine(std::string_view line) {
-  const std::string stamp = nextTabField(line);
-  const std::string_view shown = trim(stamp);
-  const auto hour = digitsOnly(charsFrom(stamp, 11, 2));
-  const auto minute = digitsOnly(lastCharacters(shown, 2));
-  std::string flow = nextTabField(line);
-  if (!hour || !minute) return {std::nullopt, std::move(flow)};
-  return {*hour * 60 + *minute, std::move(flow)};
+  ClockedFlow point;
+  point.stamp = nextTabField(line);
+  point.flow = nextTabField(line);
+  const auto hour = digitsOnly(charsFrom(point.stamp, 11, 2));
+  const auto minute = digitsOnly(lastCharacters(trim(point.stamp), 2));
+  if (hour && minute) point.clock = *hour * 60 + *minute;
+  return point;
 }
 
 ClockedFlow readRivexLine(std::string_view line) {
   nextTabField(line);
-  const std::string stamp = nextTabField(line);
+  ClockedFlow point;
+  point.stamp = nextTabField(line);
   nextTabField(line);
-  return {digitsOnly(lastCharacters(trim(stamp), 4)), nextTabField(line)};
+  point.flow = nextTabField(line);
+  point.clock = digitsOnly(lastCharacters(trim(point.stamp), 4));
+  return point;
 }
 
 long long basixMinutes(long long earlier, long long later) {
@@ -85,6 +90,27 @@ bool atNumberOne(LineReader& lines, std::string_view& line) {
   return false;
 }
 
+std::string faultIn(const ClockedFlow& point, long long endOfDay, std::size_t line) {
+  if (!point.clock || *point.clock > endOfDay) return fieldFault(line, point.stamp, "clock time");
+  return isNumberOrBlank(point.flow) ? "" : fieldFault(line, point.flow, "discharge");
+}
+
+std::string faultIn(const HydrographRow& row, std::size_t line) {
+  if (!isNumberOrBlank(row.time)) return fieldFault(line, row.time, "time");
+  return isNumberOrBlank(row.flow) ? "" : fieldFault(line, row.flow, "discharge");
+}
+
+// Whether a field was meant as a number, be it one with a decimal comma or a unit.
+bool isMeantAsNumber(std::string_view field) {
+  const std::size_t first = field.find_first_not_of("+-., ");
+  return first != std::string_view::npos && field[first] >= '0' && field[first] <= '9';
+}
+
+bool isHeading(const HydrographRow& row) {
+  if (trim(row.time).empty() && trim(row.flow).empty()) return false;
+  return !isMeantAsNumber(row.time) && !isMeantAsNumber(row.flow);
+}
+
 std::optional<TabHydrograph> readClocked(std::string_view text, std::size_t mostRows, const ClockFormat& format) {
   TabHydrograph hydrograph;
   LineReader lines(text);
@@ -96,10 +122,8 @@ std::optional<TabHydrograph> readClocked(std::string_view text, std::size_t most
   do {
     if (isBlank(line)) continue;
     ClockedFlow point = format.read(line);
-    if (!point.clock || *point.clock > format.endOfDay) {
-      hydrograph.fault = "Line " + std::to_string(lines.lineNumber()) + " holds no clock time.";
-      break;
-    }
+    hydrograph.fault = faultIn(point, format.endOfDay, lines.lineNumber());
+    if (!hydrograph.fault.empty()) break;
     if (!hydrograph.rows.empty()) minutes += format.minutesBetween(before, *point.clock);
     before = *point.clock;
     hydrograph.rows.push_back({decimalNumber(static_cast<double>(minutes) / 60), std::move(point.flow)});
@@ -117,13 +141,21 @@ std::optional<TabHydrograph> readRivex(std::string_view text, std::size_t mostRo
   return readClocked(text, mostRows, {atNumberOne, readRivexLine, rivexMinutes, kHhmmADay});
 }
 
-std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows) {
+std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows, std::string* fault) {
   std::vector<HydrographRow> rows;
   LineReader lines(text);
   std::string_view line;
   while (rows.size() < mostRows && lines.next(line)) {
-    std::string time = nextTabField(line);
-    rows.push_back({std::move(time), nextTabField(line)});
+    HydrographRow row;
+    row.time = nextTabField(line);
+    row.flow = nextTabField(line);
+    if (lines.lineNumber() == 1 && isHeading(row)) continue;
+    std::string wrong = faultIn(row, lines.lineNumber());
+    if (!wrong.empty()) {
+      if (fault != nullptr) *fault = std::move(wrong);
+      break;
+    }
+    rows.push_back(std::move(row));
   }
   return rows;
 }

@@ -16,11 +16,12 @@ struct HydrographRow {
   bool operator==(const HydrographRow&) const = default;
 };
 
-// What a reader took out of a file. It stops at the first value that is none; the rows before it stay.
+// What a reader took out of a file. It stops at the first time or discharge that is none; the rows before it stay. An
+// empty discharge is none that is wrong.
 struct TabHydrograph {
   std::string title;  // 40 characters at most
   std::vector<HydrographRow> rows;
-  std::string fault;  // empty: none
+  std::string fault;  // as of fieldFault; empty: none
 };
 
 // The first field of the first line is the title. The data begin behind the first line of ten hyphens. Fields of a
@@ -34,8 +35,10 @@ std::optional<TabHydrograph> readBasix(std::string_view text, std::size_t mostRo
 // number, 2400 added where the later is not the greater; its hundreds are hours, the rest minutes.
 std::optional<TabHydrograph> readRivex(std::string_view text, std::size_t mostRows);
 
-// Time and discharge, a line a row; missing fields are empty.
-std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows);
+// Time and discharge, a line a row; missing fields are empty. A first line of two texts that are no numbers, nor meant
+// as such, is a heading and passed over. Reading stops at the first field that is neither empty nor a number; `fault`,
+// where given, then tells of it as fieldFault does.
+std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows, std::string* fault = nullptr);
 
 // The same as a text; rows in which both are empty are left out.
 std::string tabRowsText(const std::vector<HydrographRow>& rows);

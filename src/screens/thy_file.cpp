@@ -1,10 +1,13 @@
 #include "screens/thy_file.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/fields.h"
 #include "base/lines.h"
+#include "base/numbers.h"
 #include "base/text.h"
+#include "screens/hydrograph_fault.h"
 
 namespace kestra {
 namespace {
@@ -31,13 +34,29 @@ void put(std::string& line, int column, std::string_view text, int width) {
   line += text;
 }
 
-// A line stands for five rows of the table, whether it reaches their fields or not.
-void takeFlows(std::string_view line, std::vector<std::string>& flows) {
+// A line stands for five rows of the table, whether it reaches their fields or not. False, and a fault told, at a field
+// that is no discharge.
+bool takeFlows(std::string_view line, std::size_t number, ThyHydrograph& hydrograph) {
   int column = kFirstFlow;
-  for (std::size_t i = 0; i < kFlowsALine && flows.size() < kMostFlows; ++i) {
-    flows.push_back(trimmed(line, column, kFieldWidth));
+  for (std::size_t i = 0; i < kFlowsALine && hydrograph.flows.size() < kMostFlows; ++i) {
+    std::string flow = trimmed(line, column, kFieldWidth);
+    if (!isNumberOrBlank(flow)) {
+      hydrograph.fault = fieldFault(number, flow, "discharge");
+      return false;
+    }
+    hydrograph.flows.push_back(std::move(flow));
     column += kFieldWidth;
   }
+  return true;
+}
+
+// An increment that cannot be one is told and left out.
+void checkIncrement(std::size_t line, ThyHydrograph& hydrograph) {
+  if (hydrograph.increment.empty()) return;
+  const std::optional<double> step = realNumber(hydrograph.increment);
+  if (step && *step > 0) return;
+  if (hydrograph.fault.empty()) hydrograph.fault = fieldFault(line, hydrograph.increment, "time increment above 0");
+  hydrograph.increment.clear();
 }
 
 void dropEmptyEnd(std::vector<std::string>& flows) {
@@ -46,19 +65,22 @@ void dropEmptyEnd(std::vector<std::string>& flows) {
 
 }  // namespace
 
-std::optional<ConstantHydrograph> readThy(std::string_view text) {
+std::optional<ThyHydrograph> readThy(std::string_view text) {
   LineReader lines(text);
   std::string_view line;
   do {
     if (!lines.next(line)) return std::nullopt;
   } while (trim(columns(line, 1, 10)) != "HYD");
-  ConstantHydrograph hydrograph;
-  if (charCount(line) >= static_cast<std::size_t>(kTitleColumn))
+  ThyHydrograph hydrograph;
+  if (charCount(line) >= static_cast<std::size_t>(kTitleColumn)) {
     hydrograph.title = trimmed(line, kTitleColumn, kTitleWidth);
-  if (lines.next(line)) hydrograph.increment = trimmed(line, kFirstFlow, kFieldWidth);
-  while (hydrograph.flows.size() < kMostFlows && lines.next(line) && trim(columns(line, 1, 10)) != "ENDTABLE") {
-    takeFlows(line, hydrograph.flows);
   }
+  if (lines.next(line)) hydrograph.increment = trimmed(line, kFirstFlow, kFieldWidth);
+  const std::size_t incrementLine = lines.lineNumber();
+  while (hydrograph.flows.size() < kMostFlows && lines.next(line) && trim(columns(line, 1, 10)) != "ENDTABLE") {
+    if (!takeFlows(line, lines.lineNumber(), hydrograph)) break;
+  }
+  checkIncrement(incrementLine, hydrograph);
   dropEmptyEnd(hydrograph.flows);
   return hydrograph;
 }

@@ -1,12 +1,12 @@
 #include "screens/vhy_file.h"
 
 #include <optional>
-#include <utility>
 
 #include "base/fields.h"
 #include "base/lines.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "screens/hydrograph_fault.h"
 
 namespace kestra {
 namespace {
@@ -46,18 +46,34 @@ bool endsRows(std::string_view line) {
   return line.starts_with('5') || keyOf(line) == "ENDTABLE";
 }
 
-std::string noTime(const LineReader& lines) {
-  return "Line " + std::to_string(lines.lineNumber()) + " holds no time.";
+std::string_view timeField(std::string_view line) {
+  return columns(line, 2, kTimeWidth);
 }
 
-std::optional<double> timeOf(std::string_view line) {
-  return realNumber(columns(line, 2, kTimeWidth));
+// The fields that a discharge comes from: its own, or one and the other that is taken off it.
+struct FlowFields {
+  std::string_view flow;
+  std::string_view less;
+};
+
+FlowFields flowFields(std::string_view line, int column) {
+  if (column < 3) return {columns(line, kTimeWidth * column + 2, kTimeWidth), {}};
+  return {columns(line, 24, 10), columns(line, 13, 10)};
 }
 
 std::string flowOf(std::string_view line, int column) {
-  if (column < 3) return std::string(trim(columns(line, kTimeWidth * column + 2, kTimeWidth)));
-  const double difference = lenientNumber(columns(line, 24, 10)) - lenientNumber(columns(line, 13, 10));
-  return decimalNumber(difference, kDigits);
+  const auto [flow, less] = flowFields(line, column);
+  if (column < 3) return std::string(trim(flow));
+  return decimalNumber(lenientNumber(flow) - lenientNumber(less), kDigits);
+}
+
+std::string faultIn(std::string_view line, int column, std::size_t number) {
+  if (!realNumber(timeField(line))) return fieldFault(number, timeField(line), "time");
+  const auto [flow, less] = flowFields(line, column);
+  for (const std::string_view field : {flow, less}) {
+    if (!isNumberOrBlank(field)) return fieldFault(number, field, "discharge");
+  }
+  return {};
 }
 
 }  // namespace
@@ -79,22 +95,28 @@ VhyHydrograph readVhy(std::string_view text, std::string_view code, int column, 
   VhyHydrograph hydrograph;
   LineReader lines(text);
   std::string_view line;
-  if (!findRecord(lines, code) || !lines.next(line)) return hydrograph;
+  if (!findRecord(lines, code) || !lines.next(line) || endsRows(line)) return hydrograph;
   hydrograph.startTime = trim(columns(line, 12, kTimeWidth));
-  const std::optional<double> start = hydrograph.startTime.empty() ? 0.0 : realNumber(hydrograph.startTime);
-  double first = 0;
-  while (start && hydrograph.rows.size() < mostRows && lines.next(line) && !endsRows(line)) {
-    if (trim(line).empty()) continue;
-    const std::optional<double> time = timeOf(line);
-    if (!time) {
-      hydrograph.fault = noTime(lines);
-      return hydrograph;
-    }
-    if (hydrograph.rows.empty()) first = *time;
-    if (hydrograph.rows.size() == 1) hydrograph.increment = decimalNumber(*time - first, kDigits);
-    hydrograph.rows.push_back({decimalNumber(*time - *start, kDigits), flowOf(line, column)});
+  if (!isNumberOrBlank(hydrograph.startTime)) {
+    hydrograph.fault = fieldFault(lines.lineNumber(), hydrograph.startTime, "time");
+    return hydrograph;
   }
-  if (!start) hydrograph.fault = noTime(lines);
+  const double start = lenientNumber(hydrograph.startTime);
+  double first = 0;
+  std::string noStep;
+  while (hydrograph.rows.size() < mostRows && lines.next(line) && !endsRows(line)) {
+    if (trim(line).empty()) continue;
+    hydrograph.fault = faultIn(line, column, lines.lineNumber());
+    if (!hydrograph.fault.empty()) return hydrograph;
+    const double time = lenientNumber(timeField(line));
+    if (hydrograph.rows.empty()) first = time;
+    if (hydrograph.rows.size() == 1) {
+      hydrograph.increment = decimalNumber(time - first, kDigits);
+      if (time <= first) noStep = fieldFault(lines.lineNumber(), hydrograph.increment, "time increment above 0");
+    }
+    hydrograph.rows.push_back({decimalNumber(time - start, kDigits), flowOf(line, column)});
+  }
+  hydrograph.fault = noStep;
   return hydrograph;
 }
 

@@ -21,12 +21,14 @@ struct VhyHydrograph {
   std::string startTime;            // hours, as in the file
   std::string increment;            // hours, between the first two times; empty with fewer
   std::vector<HydrographRow> rows;  // times count from the start time
-  std::string fault;                // the line that stopped the reading; empty: none
+  std::string fault;                // as of fieldFault; empty: none
 };
 
 // The record of a code. Behind its first line stands one with the start time in columns 12 to 22; then the rows, up to
 // "ENDTABLE" or a line that begins with "5": time in columns 2 to 12, discharge in the eleven columns from 11 * column
-// + 2 on. From column 3 on the discharge is the value in 24 to 33 less the one in 13 to 22.
+// + 2 on. From column 3 on the discharge is the value in 24 to 33 less the one in 13 to 22. Reading stops at a time or
+// a discharge that is no number, though a discharge may be blank; the rows before it stay. An increment of 0 or below
+// is a fault that takes no rows away.
 VhyHydrograph readVhy(std::string_view text, std::string_view code, int column, std::size_t mostRows);
 
 }  // namespace kestra

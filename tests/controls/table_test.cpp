@@ -64,6 +64,10 @@ TEST(Table, growsByEmptyRowsAndIsOfItsDesignAgainAfterIt) {
   EXPECT_EQ(table.rows(), 3);
   table.growTo(5);
   EXPECT_EQ(table.rows(), 5);
+  EXPECT_TRUE(table.rowShown(3) && table.rowShown(4));
+  EXPECT_EQ(table.rowHeight(4), 0);
+  table.setRowShown(4, false);
+  EXPECT_FALSE(table.rowShown(4));
   EXPECT_EQ(table.cell(2, 1), "x");
   table.setCell(4, 1, "y");
   EXPECT_EQ(table.cell(4, 1), "y");

@@ -153,7 +153,7 @@ TEST_F(HydrographData, putsACursorOnTheHeadingsIntoTheData) {
 }
 
 TEST_F(HydrographData, refusesAnIncrementThatIsNotAboveZero) {
-  for (const char* text : {"0", "-1", "abc", "0.0"}) {
+  for (const char* text : {"0", "-1", "abc", "0.0", " "}) {
     setIncrement(text);
     EXPECT_EQ(takeBoxes(), Texts{kConstantStep}) << text;
     EXPECT_EQ(screen.txtConst.text(), "");
@@ -178,6 +178,58 @@ TEST_F(HydrographData, cutsATitleOfMoreThanFortyCharacters) {
   screen.txtTitle.userLeave();
   EXPECT_EQ(takeBoxes(), Texts{"Data Check: Title cannot exceed 40 characters."});
   EXPECT_EQ(screen.txtTitle.text(), forty);
+}
+
+TEST_F(HydrographData, checksATitleOnlyAfterTheUserHasChangedIt) {
+  const std::string long41(41, 'x');
+  screen.txtTitle.setText(long41);
+  screen.txtTitle.userLeave();
+  EXPECT_TRUE(takeBoxes().empty());
+  EXPECT_EQ(screen.txtTitle.text(), long41);
+  screen.txtTitle.userKey({U'y', ""});
+  EXPECT_TRUE(screen.bTitleChanged);
+  screen.txtTitle.userLeave();
+  EXPECT_EQ(takeBoxes(), Texts{"Data Check: Title cannot exceed 40 characters."});
+  EXPECT_FALSE(screen.bTitleChanged);
+}
+
+TEST_F(HydrographData, remembersTheLastIncrementThatItAccepted) {
+  setIncrement("0.5");
+  EXPECT_EQ(screen.lastConst, "0.5");
+  screen.txtConst.userReplace("-1");
+  EXPECT_TRUE(screen.bConstChanged);
+  screen.txtConst.userLeave();
+  EXPECT_FALSE(screen.bConstChanged);
+  EXPECT_EQ(takeBoxes(), Texts{kConstantStep});
+  EXPECT_EQ(screen.lastConst, "0.5");
+}
+
+TEST_F(HydrographData, leavesItsPointsAloneWhenAProgramSetsTheIncrement) {
+  setIncrement("1");
+  put(screen.grdTable, 1, {"0", "10"});
+  screen.txtConst.setText("0.5");
+  screen.txtConst.userLeave();
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+}
+
+TEST_F(HydrographData, clearsTheTableOnShowInOneStepThatCanBeUndone) {
+  put(screen.grdTable, 1, {"1", "2"});
+  put(screen.varTable, 0, {"3", "4"});
+  screen.setRowNum(1);
+  screen.grdTable.userSelect({2, 1}, {4, 1});
+  screen.clearTable();
+  EXPECT_EQ(column(screen.grdTable, 1, 2), (Texts{"", ""}));
+  EXPECT_EQ(screen.grdTable.cell(2, 0), "1         ");
+  EXPECT_EQ(screen.grdTable.cursor(), (CellPosition{1, 1}));
+  EXPECT_EQ(screen.grdTable.corner(), (CellPosition{1, 1}));
+  EXPECT_EQ(column(screen.varTable, 0, 2), (Texts{"3", "4"}));
+  EXPECT_TRUE(state.fileDirty);
+  screen.mnuUndo.click();
+  EXPECT_EQ(column(screen.grdTable, 1, 2), (Texts{"1", "2"}));
+  screen.selectForm(false);
+  screen.clearTable();
+  EXPECT_EQ(column(screen.varTable, 0, 2), (Texts{"", ""}));
+  EXPECT_EQ(screen.varTable.cell(0, 0), " Time, hrs");
 }
 
 TEST_F(HydrographData, makesNoStepByBeingShown) {
@@ -211,6 +263,50 @@ TEST_F(HydrographData, dropsWhatIsPastedBehindItsLastRow) {
   screen.editMenu.mnuPaste.click();
   EXPECT_EQ(lastFilled(screen.grdTable), 5000);
   EXPECT_EQ(screen.grdTable.rows(), 5001);
+}
+
+TEST_F(HydrographData, offersTheDrawdownThatAnUndoneAnalysisLeaves) {
+  project.optNoBreachAnalysis.userSelect();
+  host.show(screen);
+  screen.chk10daydrawdown.userSet(true);
+  EXPECT_TRUE(screen.Frame3.visible() && screen.txtDrawdownTime.enabled());
+  screen.mnuUndo.click();
+  EXPECT_FALSE(screen.txtDrawdownTime.enabled());
+  screen.mnuUndo.click();
+  EXPECT_FALSE(screen.Frame3.visible());
+  screen.mnuRedo.click();
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.Frame3.visible() && screen.txtDrawdownTime.enabled());
+}
+
+TEST_F(HydrographData, showsTheTableOfAFormThatIsUndone) {
+  screen.selectForm(false);  // by a program: no step
+  host.show(screen);
+  screen.optConst.userSelect();
+  screen.mnuUndo.click();
+  EXPECT_TRUE(screen.varTable.visible() && screen.txtDesired.visible());
+  EXPECT_FALSE(screen.grdTable.visible() || screen.txtConst.visible());
+  EXPECT_EQ(screen.cmdConvert.caption(), kToConstant);
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.grdTable.visible());
+  EXPECT_EQ(screen.cmdConvert.caption(), kToVariable);
+}
+
+TEST_F(HydrographData, checksFieldsAgainBehindAnUndo) {
+  screen.txtTitle.userReplace(std::string(41, 'x'));
+  screen.txtTitle.userLeave();
+  takeBoxes();
+  screen.mnuUndo.click();
+  EXPECT_EQ(screen.txtTitle.text(), std::string(41, 'x'));
+  screen.txtTitle.userLeave();
+  EXPECT_EQ(takeBoxes(), Texts{"Data Check: Title cannot exceed 40 characters."});
+  put(screen.grdTable, 1, {"0", "10"});
+  setIncrement("1");
+  setIncrement("0.5");
+  screen.mnuUndo.click();
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+  screen.txtConst.userLeave();
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "5", "10"}));
 }
 
 }  // namespace

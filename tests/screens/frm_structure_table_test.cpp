@@ -284,6 +284,48 @@ TEST_F(StructureTable, takesAnImportBackInOneStep) {
   EXPECT_EQ(screen.txtStructureID.text(), "A");
 }
 
+TEST_F(StructureTable, readsFilesWithCarriageReturnsAlone) {
+  desk.files.put("/p/a.STR", "STRUCTURE A\r                    5\r                    6\rENDTABLE\r");
+  choose("/p/a.STR");
+  screen.mnuOpen_Click();
+  EXPECT_EQ(screen.txtStructureID.text(), "A");
+  EXPECT_EQ(row(2)[0], "6");
+  desk.files.put("/p/a.txt", "1\t2\r3\t4");
+  choose("/p/a.txt");
+  screen.mnuImport_Click();
+  EXPECT_EQ(row(2), (Boxes{"3", "4", "", ""}));
+  desk.files.put("/p/a.OUT", "RATING TABLE NUMBER  2\r1\r2\r3\r     100.5              12.5\r");
+  choose("/p/a.OUT");
+  screen.mnuImportTorve_Click();
+  EXPECT_EQ(row(1), (Boxes{"100.5", "12.5", "", ""}));
+}
+
+TEST_F(StructureTable, isClearedInOneStepThatCanBeUndone) {
+  screen.grdTable.setCell(1, 1, "7");
+  screen.grdTable.setCell(50, 4, "8");
+  screen.grdTable.userSelect({3, 2}, {5, 4});
+  screen.clearTable();
+  EXPECT_EQ(row(1)[0] + row(50)[3], "");
+  EXPECT_EQ(screen.grdTable.cell(1, 0), "1");
+  EXPECT_EQ(screen.grdTable.cursor(), (CellPosition{1, 1}));
+  EXPECT_EQ(screen.grdTable.corner(), (CellPosition{1, 1}));
+  EXPECT_TRUE(desk.state.fileDirty);
+  screen.mnuUndo.click();
+  EXPECT_EQ(row(1)[0] + row(50)[3], "78");
+}
+
+TEST_F(StructureTable, isSetUpAnewByItsHelpers) {
+  screen.grdTable.setCell(2, 0, "x");
+  screen.grdTable.setColumnWidth(4, 1);
+  screen.grdTable.setRowHeight(0, 1);
+  screen.setRowNum();
+  screen.setColWidth();
+  screen.setRowHeight();
+  EXPECT_EQ(screen.grdTable.cell(2, 0), "2");
+  EXPECT_EQ(screen.grdTable.columnWidth(4), 1750);
+  EXPECT_EQ(screen.grdTable.rowHeight(0), 560);
+}
+
 TEST_F(StructureTable, isEditedByTheCommandsOfItsMenu) {
   typeInto(screen.grdTable, "1\r2\r3\r4\r5");
   screen.grdTable.userSelect({1, 1}, {1, 1});
@@ -292,6 +334,21 @@ TEST_F(StructureTable, isEditedByTheCommandsOfItsMenu) {
   EXPECT_EQ(row(2), (Boxes{"1", "2", "3", "4"}));
   screen.editMenu.mnuDeletePoint.click();
   EXPECT_EQ(row(1), (Boxes{"1", "2", "3", "4"}));
+}
+
+TEST_F(StructureTable, offersTheStartThatAnUndoneAnalysisLeaves) {
+  project.optNoBreachAnalysis.userSelect();
+  desk.host.show(screen);
+  screen.optCFS.userSelect();
+  screen.mnuUndo.click();
+  EXPECT_TRUE(screen.optFEET.selected() && screen.optCFS.visible());
+  screen.mnuUndo.click();
+  EXPECT_TRUE(project.optBreachAnalysis.selected());
+  EXPECT_FALSE(screen.optCFS.visible());
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.optCFS.visible());
+  screen.mnuRedo.click();
+  EXPECT_TRUE(screen.optCFS.selected());
 }
 
 }  // namespace

@@ -105,6 +105,7 @@ TEST_F(HydrographConversion, isTruncatedToFiveThousandPointsWithAMessage) {
   EXPECT_EQ(takeBoxes(), Texts{"Hydrograph Error: Too many points. Hydrograph truncated from 17000 to 5000 points."});
   EXPECT_EQ(screen.txtConst.text(), "0.00141184");
   EXPECT_EQ(lastFilled(screen.grdTable), 5000);
+  EXPECT_EQ(screen.grdTable.cell(5000, 0), "7.05782693");  // 4999 * 24 / 16999: not by the text of the step
 }
 
 TEST_F(HydrographConversion, usesTheSmallestStepInPlaceOfASmallerOne) {
@@ -166,6 +167,20 @@ TEST_F(HydrographConversion, growsItsTablesToTheRowsThatAConversionMayNeed) {
   host.show(screen);
   EXPECT_EQ(screen.grdTable.rows(), 5001);
   EXPECT_EQ(screen.grdTable.cell(0, 1), " Discharge, cfs");
+}
+
+TEST_F(HydrographConversion, leavesTheFocusWhereItIs) {
+  put(screen.grdTable, 1, {"0", "2"});
+  screen.txtConst.setText("1");
+  screen.grdTable.userFocus();
+  EXPECT_FALSE(screen.bConverted);
+  screen.convertHydrograph(1, 1);
+  EXPECT_EQ(host.focus(), &screen.grdTable);
+  EXPECT_TRUE(screen.bConverted);
+  screen.convertHydrograph(1, 2);
+  EXPECT_EQ(host.focus(), &screen.grdTable);
+  host.unload(screen);
+  EXPECT_FALSE(screen.bConverted);
 }
 
 TEST_F(HydrographConversion, knowsTwoModesOfConversion) {

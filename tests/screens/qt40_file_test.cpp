@@ -51,7 +51,25 @@ TEST(ReadQt40, stopsWhenTheTableIsFull) {
 TEST(ReadQt40, stopsAtAValueThatIsNoNumber) {
   const Qt40Hydrograph read = readQt40(kAnchor + kPlain + kBlanks + "1         *****     3\n", 0, 100);
   EXPECT_EQ(read.flows, Texts{"1"});
-  EXPECT_EQ(read.fault, "\"*****\" is no discharge.");
+  EXPECT_EQ(read.fault, "line 4: \"*****\" is no discharge.");
+}
+
+TEST(ReadQt40, takesNoHeaderValueThatIsNoNumber) {
+  const std::string rows = kBlanks + "1         2\n";
+  const std::string noBase = "HYD       STORM C                       0         0.5                 1,5\n";
+  const Qt40Hydrograph base = readQt40(kAnchor + noBase + rows, 0, 100);
+  EXPECT_EQ(base.flows, Texts());
+  EXPECT_EQ(base.fault, "line 3: \"1,5\" is no base flow.");
+  const std::string noStep = "HYD       STORM C                       0         0,5\n";
+  const Qt40Hydrograph step = readQt40(kAnchor + noStep + rows, 0, 100);
+  EXPECT_EQ(step.flows, (Texts{"1", "2"}));
+  EXPECT_EQ(step.increment, "");
+  EXPECT_EQ(step.fault, "line 3: \"0,5\" is no time increment.");
+  const std::string noStart = "HYD       STORM C                       noon      0.5\n";
+  const Qt40Hydrograph start = readQt40(kAnchor + noStart + rows, 0, 100);
+  EXPECT_EQ(start.flows, (Texts{"1", "2"}));
+  EXPECT_EQ(start.startTime + "," + start.increment, ",0.5");
+  EXPECT_EQ(start.fault, "line 3: \"noon\" is no start time.");
 }
 
 TEST(ReadQt40, givesNothingForAHydrographThatIsNotThere) {

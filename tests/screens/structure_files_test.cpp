@@ -25,9 +25,28 @@ TEST(StructureFileText, leavesOutRowsWithoutElevationAndRowsBehindTheTwentieth) 
   EXPECT_EQ(text.find('9'), std::string::npos);
 }
 
-TEST(StructureFileText, cutsAValueToItsField) {
-  const auto file = readStructureFile(structureFileText("", {{"123456789012", "1", "2", "3"}}));
-  EXPECT_EQ(file->rows, (Rows{{"1234567890", "1", "2", "3"}}));
+TEST(StructureFileText, cutsAValueWhereTheNextFieldBeginsAndTheLastOneNever) {
+  struct Case {
+    StructureRow row;
+    std::string line;
+  };
+  const std::string eleven = "12345678901";
+  const std::string long25 = "1234567890123456789012345";
+  for (const auto& [row, line] : {Case{{eleven, "2", "3", "4"}, "12345678904         2                   3"},
+                                  Case{{eleven, "", "", ""}, "1234567890"},
+                                  Case{{"1", "2", "3", eleven}, "1         12345678902                   3"},
+                                  Case{{"1", eleven, "3", "4"}, "1         4         12345678901         3"},
+                                  Case{{"1", long25, "3", "4"}, "1         4         123456789012345678903"},
+                                  Case{{"1", "2", eleven, "4"}, "1         4         2                   12345678901"},
+                                  Case{{"1", "2", long25, "4"}, "1         4         2                   " + long25}}) {
+    EXPECT_EQ(structureFileText("", {row}), "STRUCTURE\r\n" + kBlanks + line + "\r\nENDTABLE\r\n");
+  }
+}
+
+TEST(ReadStructureFile, takesTenCharactersOfAField) {
+  const std::string eleven = "12345678901";
+  const auto file = readStructureFile(structureFileText("", {{eleven, eleven, eleven, eleven}}));
+  EXPECT_EQ(file->rows, (Rows{{"1234567890", "1234567890", "1234567890", "1234567890"}}));
 }
 
 TEST(ReadStructureFile, readsBackWhatIsWritten) {

@@ -36,11 +36,19 @@ TEST(ReadBasix, doesNotDriftOverManySmallSteps) {
 }
 
 TEST(ReadBasix, stopsAtALineWithoutTimeAndKeepsTheRowsBefore) {
-  for (const char* line : {"06/01/2001 xx:15\t3\n", "06/01/2001 12:-5\t3\n", "total\t3\n", "06/01/2001 1.:15\t3\n",
-                           "06/01/2001 24:01\t3\n"}) {
-    const auto read = readBasix(kBasix + "06/01/2001 12:00\t10\n" + line + "06/01/2001 13:00\t4\n", 100);
-    EXPECT_EQ(read->rows, (Rows{{"0", "10"}})) << line;
-    EXPECT_EQ(read->fault, "Line 5 holds no clock time.") << line;
+  for (const std::string stamp :
+       {"06/01/2001 xx:15", "06/01/2001 12:-5", "total", "06/01/2001 1.:15", "06/01/2001 24:01"}) {
+    const auto read = readBasix(kBasix + "06/01/2001 12:00\t10\n" + stamp + "\t3\n06/01/2001 13:00\t4\n", 100);
+    EXPECT_EQ(read->rows, (Rows{{"0", "10"}})) << stamp;
+    EXPECT_EQ(read->fault, "line 5: \"" + stamp + "\" is no clock time.");
+  }
+}
+
+TEST(ReadBasix, stopsAtADischargeThatIsNoNumberButTakesAnEmptyOne) {
+  for (const std::string flow : {"12,5", "1,234.5", "n/a", "12.5 cfs", "nan", "1e999"}) {
+    const auto read = readBasix(kBasix + "06/01/2001 12:00\n06/01/2001 13:00\t" + flow + "\n", 100);
+    EXPECT_EQ(read->rows, (Rows{{"0", ""}})) << flow;
+    EXPECT_EQ(read->fault, "line 5: \"" + flow + "\" is no discharge.");
   }
 }
 
@@ -82,11 +90,18 @@ TEST(ReadRivex, subtractsClocksAsPlainNumbers) {
 }
 
 TEST(ReadRivex, stopsAtALineWithoutTime) {
-  for (const char* stamp : {"later", "01Jan2001, 2401", "01Jan2001, 9990", ""}) {
+  for (const std::string stamp : {"later", "01Jan2001, 2401", "01Jan2001, 9990", ""}) {
     const auto read = readRivex(kRivex + "1\t01Jan2001, 0100\t-\t10\n2\t" + stamp + "\t-\t11\n", 100);
     EXPECT_EQ(read->rows, (Rows{{"0", "10"}})) << stamp;
-    EXPECT_EQ(read->fault, "Line 5 holds no clock time.") << stamp;
+    EXPECT_EQ(read->fault,
+              stamp.empty() ? "line 5 holds no clock time." : "line 5: \"" + stamp + "\" is no clock time.");
   }
+}
+
+TEST(ReadRivex, stopsAtADischargeThatIsNoNumber) {
+  const auto read = readRivex(kRivex + "1\t01Jan2001, 0100\t-\t10\n2\t01Jan2001, 0200\t-\t0,5\n", 100);
+  EXPECT_EQ(read->rows, (Rows{{"0", "10"}}));
+  EXPECT_EQ(read->fault, "line 5: \"0,5\" is no discharge.");
 }
 
 TEST(ReadRivex, wantsALineThatBeginsWithOneAndATab) {
@@ -98,7 +113,49 @@ TEST(ReadRivex, wantsALineThatBeginsWithOneAndATab) {
 TEST(TabRows, areTimeAndDischarge) {
   EXPECT_EQ(readTabRows("0\t10\r\n0.5\t20\tmore\n7\n\n", 100), (Rows{{"0", "10"}, {"0.5", "20"}, {"7", ""}, {"", ""}}));
   EXPECT_EQ(readTabRows("1\t2\n3\t4\n", 1), (Rows{{"1", "2"}}));
+  EXPECT_EQ(readTabRows(" +1 \t-2.5e1\n", 100), (Rows{{" +1 ", "-2.5e1"}}));
   EXPECT_EQ(tabRowsText({{"0", "10"}, {"", ""}, {"1", ""}, {"", "5"}}), "0\t10\r\n1\t\r\n\t5\r\n");
+}
+
+TEST(TabRows, stopAtAFieldThatIsNoNumber) {
+  struct Case {
+    std::string text;
+    std::size_t rows;
+    const char* fault;
+  };
+  for (const auto& [text, rows, wanted] :
+       {Case{"0\t10\n0,5\t20\n", 1, "line 2: \"0,5\" is no time."},
+        Case{"0\t10\n0.5\t20,5\n1\t3\n", 1, "line 2: \"20,5\" is no discharge."},
+        Case{"0,5\t10,5\n1\t2\n", 0, "line 1: \"0,5\" is no time."},
+        Case{"Time\t10\n", 0, "line 1: \"Time\" is no time."},
+        Case{"0\tFlow\n", 0, "line 1: \"Flow\" is no discharge."},
+        Case{"Time\tFlow\nhrs\tcfs\n", 0, "line 2: \"hrs\" is no time."}, Case{"0\t10\n\t\n\t5\n", 3, ""}}) {
+    std::string fault;
+    EXPECT_EQ(readTabRows(text, 100, &fault).size(), rows) << text;
+    EXPECT_EQ(fault, wanted) << text;
+  }
+}
+
+TEST(TabRows, quoteALongFieldInPart) {
+  std::string fault;
+  readTabRows("1\t" + std::string(50, 'x'), 100, &fault);
+  EXPECT_EQ(fault, "line 1: \"" + std::string(40, 'x') + "...\" is no discharge.");
+}
+
+TEST(TabRows, passOverAHeading) {
+  for (const char* heading : {"Time\tFlow\n", "Storm of June\n", "\tFlow\n", "t, hrs\tQ2, cfs\n", "----\t----\n"}) {
+    std::string fault;
+    EXPECT_EQ(readTabRows(std::string(heading) + "0\t10\n", 1, &fault), (Rows{{"0", "10"}})) << heading;
+    EXPECT_EQ(fault, "") << heading;
+  }
+}
+
+TEST(TabRows, takeNoFirstLineForAHeadingWhoseFieldsBeginAsNumbers) {
+  for (const std::string time : {"0,5", "1d5", " -12 h", "10:00"}) {
+    std::string fault;
+    EXPECT_EQ(readTabRows(time + "\t7,5\n0\t10\n", 5, &fault), Rows());
+    EXPECT_EQ(fault, "line 1: \"" + time.substr(time.find_first_not_of(' ')) + "\" is no time.");
+  }
 }
 
 }  // namespace

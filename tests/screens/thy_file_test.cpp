@@ -61,6 +61,24 @@ TEST(ReadThy, readsAFileThatIsCutOffAndNoMoreThanTheTableHolds) {
   EXPECT_EQ(readThy(text)->flows.size(), 5000U);
 }
 
+TEST(ReadThy, stopsAtADischargeThatIsNoNumber) {
+  const auto read =
+      readThy("HYD\n" + kBlanks + "1\n" + kBlanks + "5                   12,5      7\n" + kBlanks + "8\nENDTABLE\n");
+  EXPECT_EQ(read->flows, std::vector<std::string>{"5"});
+  EXPECT_EQ(read->increment, "1");
+  EXPECT_EQ(read->fault, "line 3: \"12,5\" is no discharge.");
+}
+
+TEST(ReadThy, leavesOutAnIncrementThatIsNoNumberAboveZero) {
+  for (const std::string increment : {"0", "-0.5", "0,5", "fast"}) {
+    const auto read = readThy("HYD\n" + kBlanks + increment + "\n" + kBlanks + "5         6\nENDTABLE\n");
+    EXPECT_EQ(read->flows, (std::vector<std::string>{"5", "6"}));
+    EXPECT_EQ(read->increment, "");
+    EXPECT_EQ(read->fault, "line 2: \"" + increment + "\" is no time increment above 0.");
+  }
+  EXPECT_EQ(readThy("HYD\n\n" + kBlanks + "5\n")->fault, "");
+}
+
 TEST(ReadThy, wantsALineOfThisKeyword) {
   for (const char* text : {"", "\n", "HYDROGRAPH\n", "THY\n"}) EXPECT_FALSE(readThy(text)) << text;
 }

@@ -64,13 +64,38 @@ TEST(ReadVhy, stopsAtALineWithoutTime) {
   const VhyHydrograph read = readVhy(record("1", fields({"1.5", "10"}) + fields({"late", "11"})), "1", 1, 100);
   EXPECT_EQ(read.rows, (Rows{{"0", "10"}}));
   EXPECT_EQ(read.increment, "");
-  EXPECT_EQ(read.fault, "Line 4 holds no time.");
-  EXPECT_EQ(readVhy("31\n" + fields({"", "soon"}) + kRows, "1", 1, 100).fault, "Line 2 holds no time.");
+  EXPECT_EQ(read.fault, "line 4: \"late\" is no time.");
+  EXPECT_EQ(readVhy("31\n" + fields({"", "soon"}) + kRows, "1", 1, 100).fault, "line 2: \"soon\" is no time.");
+  EXPECT_EQ(readVhy(record("1", fields({"", "10"})), "1", 1, 100).fault, "line 3 holds no time.");
+}
+
+TEST(ReadVhy, stopsAtADischargeThatIsNoNumber) {
+  const std::string rows = fields({"1.5", ""}) + fields({"1.8", "12,5", "7", "9"}) + fields({"2.1", "1"});
+  const VhyHydrograph read = readVhy(record("1", rows), "1", 1, 100);
+  EXPECT_EQ(read.rows, (Rows{{"0", ""}}));
+  EXPECT_EQ(read.fault, "line 4: \"12,5\" is no discharge.");
+  EXPECT_EQ(readVhy(record("1", rows), "1", 2, 100).rows.size(), 3U);
+  EXPECT_EQ(readVhy(record("1", rows), "1", 3, 100).fault, "line 4: \"12,5\" is no discharge.");
+}
+
+TEST(ReadVhy, tellsOfAnIncrementThatIsNotAboveZero) {
+  struct Case {
+    const char* second;
+    const char* fault;
+  };
+  for (const auto& [second, fault] : {Case{"1.5", "line 4: \"0\" is no time increment above 0."},
+                                      Case{"1", "line 4: \"-0.5\" is no time increment above 0."}}) {
+    const VhyHydrograph read =
+        readVhy(record("1", fields({"1.5", "1"}) + fields({second, "2"}) + fields({"3", "3"})), "1", 1, 100);
+    EXPECT_EQ(read.rows.size(), 3U) << second;
+    EXPECT_EQ(read.fault, fault);
+  }
 }
 
 TEST(ReadVhy, givesNothingForACodeThatIsNotThere) {
   EXPECT_TRUE(readVhy(record("1", kRows), "3", 1, 100).rows.empty());
   EXPECT_TRUE(readVhy("31", "1", 1, 100).rows.empty());
+  EXPECT_TRUE(readVhy("31\nENDTABLE\n" + record("3", kRows), "1", 1, 100).rows.empty());
 }
 
 }  // namespace
