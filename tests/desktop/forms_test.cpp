@@ -21,9 +21,10 @@ namespace {
 const auto kNoAction = [](const std::function<void()>& action) { action(); };
 
 bool takesInput(const QWidget& widget) {
-  return qobject_cast<const QLineEdit*>(&widget) != nullptr || qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
-         qobject_cast<const QAbstractButton*>(&widget) != nullptr || qobject_cast<const QComboBox*>(&widget) != nullptr ||
-         qobject_cast<const QTableView*>(&widget) != nullptr;
+  return qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr || qobject_cast<const QTableView*>(&widget) != nullptr;
 }
 
 bool isInnerPart(const QWidget& widget) {
