@@ -2,8 +2,13 @@
 
 #include <string>
 
+#include "app/run_summary.h"
+#include "results/run_tables.h"
+#include "run/build_pipeline.h"
 #include "shell/project_guard.h"
 #include "shell/shell.h"
+#include "summary/frm_summary_fields.h"
+#include "summary/summary_store.h"
 
 namespace kestra {
 
@@ -20,6 +25,16 @@ class Application {
   ScreenHost host;
   ScreenContext context;
   Shell shell;
+  RunTables runTables;
+  SummaryStore summary;
+  frmSummaryFields summaryFields;
+  RunSummary runSummary;
+  Programs programs;
+  RunContext runs;
+  BuildPipeline builds;
+
+ private:
+  void followProject();
 };
 
 }  // namespace kestra

@@ -96,7 +96,7 @@ void describeKind(const Control& control, Json& out) {
     case ControlKind::gauge:
       return describeRange(control, out);
     case ControlKind::canvas:
-      out["scale"] = as<CanvasControl>(control).scale();
+      out["scale"] = as<CanvasControl>(control).state().scale;
       return;
     case ControlKind::directory:
       out["value"] = as<DirectoryList>(control).path();
@@ -264,7 +264,7 @@ void doubleClickControl(Control& control) {
     case ControlKind::table:
       return as<Table>(control).userDoubleClick();
     case ControlKind::canvas:
-      return as<CanvasControl>(control).userMouse({MouseEvent::Type::doubleClick, 1, 0, 0});
+      return as<CanvasControl>(control).userDoubleClick();
     default:
       refuse(control, "cannot be double-clicked: it is a " + std::string(nameOf(control.kind())));
   }
@@ -344,16 +344,24 @@ void useMouse(Control& control, const Fields& request) {
   canvas.userMouse(event);
 }
 
-Json canvasCalls(const Control& control) {
+Json describeCalls(const CanvasLog& log) {
   Json calls = Json::array();
-  for (const CanvasCall& call : ofKind<CanvasControl>(control, ControlKind::canvas).calls()) {
-    Json entry = Json::array({call.name});
-    for (const auto& argument : call.arguments) {
-      std::visit([&entry](const auto& value) { entry.push_back(value); }, argument);
+  for (const CanvasCall& call : log.calls()) {
+    Json entry = Json::array({nameOf(call.op)});
+    const CallForm& form = formOf(call.op);
+    for (int i = 0; i < form.numbers; ++i) {
+      const double number = call.numbers[static_cast<std::size_t>(i)];
+      entry.push_back(i < form.wholeFrom ? Json(number) : Json(static_cast<std::int64_t>(number)));
     }
+    if (form.text) entry.push_back(log.textOf(call));
+    if (form.flag) entry[1] = call.numbers[0] != 0;
     calls.push_back(std::move(entry));
   }
   return calls;
+}
+
+Json canvasCalls(const Control& control) {
+  return describeCalls(ofKind<CanvasControl>(control, ControlKind::canvas).log());
 }
 
 }  // namespace kestra

@@ -2,6 +2,7 @@
 
 #include "automation/json.h"
 #include "controls/control.h"
+#include "graphics/canvas_log.h"
 
 // What a script does to one control, and sees of it.
 namespace kestra {
@@ -17,5 +18,6 @@ void setTableCells(Control& control, const Fields& request);
 void setTableCursor(Control& control, const Fields& request);
 void useMouse(Control& control, const Fields& request);
 Json canvasCalls(const Control& control);
+Json describeCalls(const CanvasLog& log);  // an array a call: its name and arguments
 
 }  // namespace kestra

@@ -10,6 +10,7 @@
 #include "automation/operations.h"
 #include "automation/variables.h"
 #include "base/runtime_fault.h"
+#include "platform/files.h"
 
 namespace kestra {
 namespace {
@@ -78,8 +79,8 @@ Json controlsOf(const Screen& screen) {
 
 }  // namespace
 
-Driver::Driver(Application& application, Conversation& conversation, CanvasRenderer* renderer)
-    : application_(application), conversation_(conversation), renderer_(renderer) {
+Driver::Driver(Application& application, Conversation& conversation)
+    : application_(application), conversation_(conversation) {
   application_.host.setModalLoop(this);
 }
 
@@ -178,10 +179,17 @@ Json Driver::setClipboard(const Fields& request) {
 
 Json Driver::picture(const Control& control, const Fields& request) {
   if (control.kind() != ControlKind::canvas) throw RequestError(control.name() + " is no canvas");
-  if (renderer_ == nullptr) throw RequestError("this program was built without the picture renderer");
-  const Status made = renderer_->render(static_cast<const CanvasControl&>(control), request.text("file"),
-                                        request.integer("width", 800), request.integer("height", 600));
-  if (!made) throw RequestError(made.failure().path + ": " + made.failure().reason);
+  const std::string& file = request.text("file");
+  const PictureSize size = {request.integer("width", PictureSize().width),
+                            request.integer("height", PictureSize().height)};
+  PictureMaker* pictures = application_.shell.graphs.context.pictures;
+  if (pictures == nullptr) throw RequestError("this program was built without the picture renderer");
+  const auto form = pictureForm(file);
+  if (!form) throw RequestError(file + ": the name of a picture ends in .png, .svg, .pdf or .bmp");
+  const Result<std::string> made = pictures->make({&static_cast<const CanvasControl&>(control).log()}, *form, size);
+  if (!made) throw RequestError(file + ": " + made.failure().reason);
+  const Status written = writeWholeFile(application_.ports.files, file, made.value());
+  if (!written) throw RequestError(written.failure().path + ": " + written.failure().reason);
   return nullptr;
 }
 

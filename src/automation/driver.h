@@ -10,19 +10,11 @@
 
 namespace kestra {
 
-// Renders a canvas into a file, the form by the file's extension.
-class CanvasRenderer {
- public:
-  virtual ~CanvasRenderer() = default;
-  virtual Status render(const CanvasControl& canvas, const std::string& file, int width, int height) = 0;
-};
-
 // Carries out requests, one JSON object a line, on an application, and answers each with one line.
 class Driver : public ModalLoop {
  public:
-  // `conversation` holds the message boxes, dialogs and beeper that the application was made with. Without a renderer
-  // no picture can be made.
-  Driver(Application& application, Conversation& conversation, CanvasRenderer* renderer = nullptr);
+  // `conversation` holds the message boxes, dialogs and beeper that the application was made with.
+  Driver(Application& application, Conversation& conversation);
   ~Driver() override;
   Driver(const Driver&) = delete;
   Driver& operator=(const Driver&) = delete;
@@ -49,7 +41,6 @@ class Driver : public ModalLoop {
 
   Application& application_;
   Conversation& conversation_;
-  CanvasRenderer* renderer_;
   bool quit_ = false;
 };
 

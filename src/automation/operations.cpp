@@ -40,15 +40,25 @@ Arguments::Arguments(const std::string& operation, const std::vector<std::string
                      std::to_string(values_.size()));
 }
 
+void requireDone(const Status& status) {
+  if (!status) throw RequestError(status.failure().path + ": " + status.failure().reason);
+}
+
 const std::vector<Operation>& operations() {
   static const std::vector<Operation> kOperations = [] {
     std::vector<Operation> all;
     append(all, recordOperations());
     append(all, shellOperations());
+    append(all, outputOperations());
     append(all, spillwayOperations());
     append(all, auxOperations());
+    append(all, controlOperations());
     append(all, structureOperations());
     append(all, hydrographOperations());
+    append(all, resultsOperations());
+    append(all, runOperations());
+    append(all, summaryOperations());
+    append(all, graphOperations());
     return all;
   }();
   return kOperations;

@@ -36,12 +36,21 @@ struct Operation {
 };
 
 // The operations of the system that scripts can call, by family.
+std::vector<Operation> graphOperations();
 std::vector<Operation> hydrographOperations();
 std::vector<Operation> recordOperations();
+std::vector<Operation> resultsOperations();
+std::vector<Operation> runOperations();
 std::vector<Operation> shellOperations();
+std::vector<Operation> outputOperations();    // of frmOutput
 std::vector<Operation> spillwayOperations();  // of the principal spillway's screens
 std::vector<Operation> auxOperations();
 std::vector<Operation> structureOperations();  // of the tables of the dam, its reservoir and its tailwater
+std::vector<Operation> controlOperations();    // on the control file
+std::vector<Operation> summaryOperations();
+
+// RequestError, with the path and the reason, for what the world has refused.
+void requireDone(const Status& status);
 
 // Every one of them.
 const std::vector<Operation>& operations();

@@ -46,6 +46,10 @@ std::vector<Operation> shellOperations() {
                     UnloadAllScreens(application.shell.input.context);
                     return nullptr;
                   }});
+  list.push_back({"HideInputScreens", {}, [](Application& application, const Given&) -> Json {
+                    HideInputScreens(application.host);
+                    return nullptr;
+                  }});
   list.push_back({"LoadFieldCatalogues", {}, [](Application& application, const Given&) -> Json {
                     application.shell.loadCatalogues();
                     return nullptr;

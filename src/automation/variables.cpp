@@ -1,10 +1,11 @@
 #include "automation/variables.h"
 
-#include <algorithm>
 #include <functional>
 #include <map>
 
 #include "automation/aux_values.h"
+#include "automation/graph_values.h"
+#include "automation/summary_values.h"
 #include "base/numbers.h"
 
 namespace kestra {
@@ -31,51 +32,67 @@ Reader fromState(Member member) {
   return [member](const Application& application) -> Json { return application.state.*member; };
 }
 
-// Titles by field and level; a level that has fewer fields has empty titles behind them.
-Json titlesByIndex(const Application& application) {
-  const auto& [dam, instance] = application.shell.catalogues.fieldTitles;
-  Json titles = Json::array();
-  for (std::size_t i = 0; i < std::max(dam.size(), instance.size()); ++i) {
-    titles.push_back(Json::array({i < dam.size() ? dam[i] : "", i < instance.size() ? instance[i] : ""}));
-  }
-  return titles;
+template <class Member>
+Reader fromRun(Member member) {
+  return [member](const Application& application) -> Json { return application.runTables.*member; };
 }
 
-Json titleCounts(const Application& application) {
-  const auto& titles = application.shell.catalogues.fieldTitles;
-  return {titles[0].size(), titles[1].size()};
+Reader fromSummary(Json (*describe)(const SummaryStore&)) {
+  return [describe](const Application& application) { return describe(application.summary); };
 }
 
 const std::map<std::string, Reader>& readers() {
   using State = ApplicationState;
-  static const std::map<std::string, Reader> kReaders = {
-      {"projectDir", fromState(&State::projectDir)},
-      {"currentFile", fromState(&State::currentFile)},
-      {"fileDirty", fromState(&State::fileDirty)},
-      {"fileIsNew", fromState(&State::fileIsNew)},
-      {"fileHasName", fromState(&State::fileHasName)},
-      {"bExiting", fromState(&State::bExiting)},
-      {"projectReadOnly", fromState(&State::projectReadOnly)},
-      {"inputScreens", fromState(&State::inputScreens)},
-      {"solverPath", fromState(&State::solverPath)},
-      {"crlf", fromState(&State::crlf)},
-      {"numAuxSpillways", fromState(&State::numAuxSpillways)},
-      {"curAuxSpillway", fromState(&State::curAuxSpillway)},
-      {"currentSpillwayNumber", fromState(&State::currentSpillwayNumber)},
-      {"totalInstances", fromState(&State::totalInstances)},
-      {"lhsSeed", fromState(&State::lhsSeed)},
-      {"bRandomSample", fromState(&State::bRandomSample)},
-      {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
-      {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
-      {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},
-      {"ComboList", [](const Application& a) -> Json { return a.shell.lines.ComboList; }},
-      {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
-      {"fieldTitles", titlesByIndex},
-      {"fieldCount", titleCounts},
-      {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
-      {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
-      {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},
-  };
+  static const std::map<std::string, Reader> kReaders = [] {
+    std::map<std::string, Reader> all = {
+        {"projectDir", fromState(&State::projectDir)},
+        {"currentFile", fromState(&State::currentFile)},
+        {"fileDirty", fromState(&State::fileDirty)},
+        {"fileIsNew", fromState(&State::fileIsNew)},
+        {"fileHasName", fromState(&State::fileHasName)},
+        {"bExiting", fromState(&State::bExiting)},
+        {"projectReadOnly", fromState(&State::projectReadOnly)},
+        {"inputScreens", fromState(&State::inputScreens)},
+        {"solverPath", fromState(&State::solverPath)},
+        {"crlf", fromState(&State::crlf)},
+        {"numAuxSpillways", fromState(&State::numAuxSpillways)},
+        {"curAuxSpillway", fromState(&State::curAuxSpillway)},
+        {"currentSpillwayNumber", fromState(&State::currentSpillwayNumber)},
+        {"totalInstances", fromState(&State::totalInstances)},
+        {"lhsSeed", fromState(&State::lhsSeed)},
+        {"bRandomSample", fromState(&State::bRandomSample)},
+        {"bRandomPairing", fromState(&State::bRandomPairing)},
+        {"controlText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.controlText; }},
+        {"workText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.workText; }},
+        {"hydrographText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.hydrographText; }},
+        {"auxRunText", [](const Application& a) -> Json { return a.shell.controlFiles.texts.auxRunText; }},
+        {"windowOpen", [](const Application& a) { return windowFlags(a.state); }},
+        {"recentProjects", [](const Application& a) -> Json { return a.shell.topScreen.recent().paths(); }},
+        {"ColorList", [](const Application& a) -> Json { return a.shell.lines.ColorList; }},
+        {"ComboList", [](const Application& a) -> Json { return a.shell.lines.ComboList; }},
+        {"WidthList", [](const Application& a) -> Json { return a.shell.lines.WidthList; }},
+        {"fieldTitles", [](const Application& a) { return describeFieldTitles(a.shell.catalogues); }},
+        {"fieldCount", [](const Application& a) { return describeFieldCount(a.shell.catalogues); }},
+        {"digestFields", fromRun(&RunTables::digestFields)},
+        {"spillwayName", fromRun(&RunTables::spillwayName)},
+        {"spillwayAnalysisFlag", fromRun(&RunTables::spillwayAnalysisFlag)},
+        {"spillwayRatingFlag", fromRun(&RunTables::spillwayRatingFlag)},
+        {"entryCount", [](const Application& a) -> Json { return a.summary.entries().size(); }},
+        {"entryNames", [](const Application& a) -> Json { return a.summary.entryNames(); }},
+        {"entryValues", fromSummary(describeEntryValues)},
+        {"selectedCount", fromSummary(describeSelectedCount)},
+        {"selectedFields", fromSummary(describeSelectedFields)},
+        {"fieldSelected", fromSummary(describeFieldSelected)},
+        {"summaryOrder", [](const Application& a) -> Json { return a.summary.summaryOrder(); }},
+        {"hydrographSelected",
+         [](const Application& a) -> Json { return a.shell.input.hydrographData.hydrographSelected; }},
+        {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},
+        {"auxMaterials", [](const Application& a) { return describeAuxMaterials(a.shell.input.context.aux); }},
+        {"auxMaterialOrder", [](const Application& a) { return describeMaterialOrder(a.shell.input.context.aux); }},
+    };
+    all.merge(graphVariables());
+    return all;
+  }();
   return kReaders;
 }
 

@@ -1,8 +1,10 @@
 #include "base/numbers.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <iterator>
 #include <limits>
 #include <utility>
@@ -49,6 +51,32 @@ std::string numberCharacters(std::string_view text) {
   return compact;
 }
 
+// The value of a field that holds nothing but blanks around digits with a point or none: what nearly all fields are.
+// Up to 15 digits and their power of ten are exact, so that a single division rounds as it should.
+std::optional<double> plainNumber(std::string_view text) {
+  constexpr int kExactDigits = 15;
+  constexpr std::array<double, kExactDigits + 1> kPowers = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                            1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  const char* at = text.data();
+  const char* end = at + text.size();
+  while (at != end && *at == ' ') ++at;
+  const bool negative = at != end && *at == '-';
+  if (negative) ++at;
+  std::uint64_t digits = 0;
+  int count = 0;
+  int decimals = 0;
+  for (; at != end && isDigit(*at); ++at, ++count) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+  if (at != end && *at == '.') {
+    for (++at; at != end && isDigit(*at); ++at, ++count, ++decimals) {
+      digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+    }
+  }
+  while (at != end && *at == ' ') ++at;
+  if (at != end || count == 0 || count > kExactDigits) return std::nullopt;
+  const double value = static_cast<double>(digits) / kPowers[static_cast<std::size_t>(decimals)];
+  return negative ? -value : value;
+}
+
 // What a number beyond the range of a double stands for: 0 when its exponent is negative or it has only leading zeros.
 double outOfRange(std::string_view number) {
   const std::size_t mark = number.find('e');
@@ -71,6 +99,7 @@ std::string placePoint(std::string digits, int exponent) {
 }  // namespace
 
 double lenientNumber(std::string_view text) {
+  if (const std::optional<double> plain = plainNumber(text)) return *plain;
   const std::string number = numberCharacters(text);
   if (number.empty()) return 0.0;
   double value = 0.0;
@@ -93,6 +122,12 @@ std::optional<double> realNumber(std::string_view text) {
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   if (result.ec != std::errc() || result.ptr != text.data() + text.size() || !std::isfinite(value)) return std::nullopt;
   return value;
+}
+
+std::string singleNumber(float value) {
+  char buffer[40];
+  const auto written = std::to_chars(buffer, buffer + sizeof buffer, value);
+  return {buffer, written.ptr};
 }
 
 std::string decimalNumber(double value, int digits) {

@@ -22,6 +22,9 @@ std::string generalNumber(double value);
 // double.
 std::optional<double> realNumber(std::string_view text);
 
+// The shortest text that stands for this number and no other of single precision: "0.1", "16777216", "1e+20".
+std::string singleNumber(float value);
+
 // Plain decimal text, never with an exponent, of at most `digits` significant digits (1 to 17) without zeros at its
 // end: "0.5", "12000", "0.00000012". What is not finite is "inf", "-inf" or "nan".
 std::string decimalNumber(double value, int digits = 15);

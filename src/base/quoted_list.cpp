@@ -30,12 +30,9 @@ std::optional<std::string> QuotedListReader::next() {
   skip(rest_, kGaps);
   if (rest_.empty()) return std::nullopt;
   std::string value;
-  if (rest_.front() == '"') {
-    rest_.remove_prefix(1);
-    const std::size_t end = std::min(rest_.find('"'), rest_.size());
-    value = rest_.substr(0, end);
-    rest_.remove_prefix(std::min(end + 1, rest_.size()));
-    rest_.remove_prefix(std::min(rest_.find_first_of(",\r\n"), rest_.size()));
+  quoted_ = rest_.front() == '"';
+  if (quoted_) {
+    value = takeQuoted();
   } else {
     const std::size_t end = std::min(rest_.find_first_of(",\r\n"), rest_.size());
     value = trim(rest_.substr(0, end));
@@ -45,9 +42,25 @@ std::optional<std::string> QuotedListReader::next() {
   return value;
 }
 
+// The value behind the double quote at the front, and what is behind it up to the separator.
+std::string QuotedListReader::takeQuoted() {
+  std::string value;
+  while (true) {
+    rest_.remove_prefix(1);
+    const std::size_t end = std::min(rest_.find('"'), rest_.size());
+    value.append(rest_.substr(0, end));
+    rest_.remove_prefix(std::min(end + 1, rest_.size()));
+    if (!rest_.starts_with('"')) break;
+    value += '"';
+  }
+  rest_.remove_prefix(std::min(rest_.find_first_of(",\r\n"), rest_.size()));
+  return value;
+}
+
 std::string quotedLine(std::string_view value) {
   std::string line = "\"";
-  return line.append(value).append("\"").append(kCrLf);
+  for (const char c : value) line.append(c == '"' ? 2 : 1, c);
+  return line.append("\"").append(kCrLf);
 }
 
 }  // namespace kestra

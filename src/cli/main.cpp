@@ -1,35 +1,31 @@
 #include <csignal>
 #include <iostream>
 
-#include "app/application.h"
 #include "automation/driver.h"
 #include "base/paths.h"
+#include "cli/file_work.h"
+#include "cli/graph_command.h"
 #include "cli/native_desk.h"
 #include "cli/options.h"
-#include "platform/native/terminal_dialogs.h"
-#include "platform/native/terminal_message_boxes.h"
+#include "cli/pictures.h"
+#include "cli/summary_text.h"
+#include "cli/terminal_session.h"
 
 namespace {
 
 using namespace kestra;
 
-constexpr int kFailed = 1;
-
 // Makes a project by the screen that a person would use.
 int makeProject(const CliOptions& options) {
-  NativeDesk desk(options);
-  TerminalMessageBoxes boxes(std::cerr, options.yes);
-  TerminalDialogs dialogs(std::cerr);
-  TerminalBeeper beeper;
-  Application application(desk.ports(boxes, dialogs, beeper), desk.applicationDirectory());
-  Shell& shell = application.shell;
-  const std::string path = absolutePath(options.directory, desk.files().currentDirectory());
+  TerminalSession session(options);
+  Shell& shell = session.application.shell;
+  const std::string path = absolutePath(options.directory, session.desk.files().currentDirectory());
   shell.startUp("");
   shell.topScreen.mnuNewProject.click();
   shell.newProject.dirList.setPath(std::string(directoryOf(path)));
   shell.newProject.txtEnterName.setText(std::string(ParsePathName(path)));
   shell.newProject.cmdOK.click();
-  const bool made = application.state.projectDir == path;
+  const bool made = session.application.state.projectDir == path;
   shell.end();
   if (!made) return kFailed;
   std::cout << path << '\n';
@@ -40,6 +36,9 @@ int drive(const CliOptions& options) {
   NativeDesk desk(options);
   Conversation conversation(std::cerr);
   Application application(desk.ports(conversation, conversation, conversation), desk.applicationDirectory());
+  const auto pictures = makePictures();
+  application.shell.graphs.context.pictures = pictures.get();
+  application.shell.graphs.context.printer = &desk.printer();
   Driver driver(application, conversation);
   application.shell.startUp(options.controlFile);
   if (application.shell.ended()) return kFailed;
@@ -48,11 +47,33 @@ int drive(const CliOptions& options) {
   return 0;
 }
 
+int graph(const CliOptions& options) {
+  TerminalSession session(options);
+  const auto pictures = makePictures();
+  session.application.shell.graphs.context.pictures = pictures.get();
+  session.application.shell.startUp("");
+  return drawGraphs(session.application, options, std::cout, std::cerr);
+}
+
 int run(int argc, char** argv) {
   int exitCode = 0;
   const auto options = parseCommandLine(argc, argv, std::cout, std::cerr, exitCode);
   if (!options) return exitCode;
-  return options->command == CliCommand::newProject ? makeProject(*options) : drive(*options);
+  switch (options->command) {
+    case CliCommand::newProject:
+      return makeProject(*options);
+    case CliCommand::build:
+      return buildFiles(*options);
+    case CliCommand::check:
+      return checkFiles(*options);
+    case CliCommand::summary:
+      return printSummary(*options);
+    case CliCommand::graph:
+      return graph(*options);
+    case CliCommand::drive:
+      break;
+  }
+  return drive(*options);
 }
 
 }  // namespace

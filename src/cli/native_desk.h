@@ -7,6 +7,7 @@
 #include "platform/native/posix_file_system.h"
 #include "platform/native/posix_process_host.h"
 #include "platform/native/system_ports.h"
+#include "platform/printer.h"
 #include "platform/scripted.h"
 
 namespace kestra {
@@ -30,6 +31,7 @@ class NativeDesk {
   Ports ports(MessageBoxes& boxes, Dialogs& dialogs, Beeper& beeper);
   const std::string& applicationDirectory() const { return applicationDirectory_; }
   FileSystem& files() { return files_; }
+  Printer& printer() { return printer_; }
 
  private:
   PosixFileSystem files_;
@@ -37,6 +39,7 @@ class NativeDesk {
   IniSettings settings_;
   MemoryClipboard clipboard_;
   PosixProcessHost processes_;
+  SpoolPrinter printer_{files_, processes_, "/tmp"};
   TerminalEventPump events_;
   SystemEntropy entropy_;
   SystemClock clock_;

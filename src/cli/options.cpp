@@ -3,10 +3,18 @@
 #include <CLI/CLI.hpp>
 #include <ostream>
 
+#include "cli/graph_command.h"
+#include "graphs/graph_catalogue.h"
+
 namespace kestra {
 namespace {
 
 constexpr int kWrongUsage = 2;
+
+// What is wrong with a size such as "800x600"; empty: nothing.
+std::string sizeFault(const std::string& size) {
+  return parseSize(size) ? "" : size + " is no size such as 1200x800, of 1 to 20000 pixels each way";
+}
 
 // The command line's grammar, writing into `options`.
 struct Grammar {
@@ -14,7 +22,11 @@ struct Grammar {
 
   CLI::App app{"Overtopping and breach of embankment dams, without a window", "kestra"};
   CLI::App* newProject = app.add_subcommand("new", "make a project directory");
+  CLI::App* build = app.add_subcommand("build", "build control files: run their analyses");
+  CLI::App* check = app.add_subcommand("check", "check the integrity of control files");
+  CLI::App* summary = app.add_subcommand("summary", "print the results of a project's runs");
   CLI::App* drive = app.add_subcommand("drive", "carry out requests, one JSON object a line, from standard input");
+  CLI::App* graph = app.add_subcommand("graph", "draw graphs of a finished run, or list them");
   CLI::App* help = app.add_subcommand("help", "tell about the commands");
   std::string helpTopic;
   bool version = false;
@@ -22,7 +34,7 @@ struct Grammar {
 
 Grammar::Grammar(CliOptions& options) {
   app.require_subcommand(0, 1);
-  for (CLI::App* command : {newProject, drive, help}) {
+  for (CLI::App* command : {newProject, build, check, summary, graph, drive, help}) {
     command->fallthrough();
     command->footer("Options of every command: --app-dir DIR, --settings FILE");
   }
@@ -31,7 +43,30 @@ Grammar::Grammar(CliOptions& options) {
   app.add_option("--settings", options.settingsFile, "settings file")->type_name("FILE");
   app.add_flag("--yes", options.yes, "answer questions with Yes");
   newProject->add_option("DIR", options.directory, "the directory to make")->required()->type_name("");
+  for (CLI::App* command : {build, check}) {
+    command->add_option("FILE", options.files, "control files")->required()->type_name("");
+  }
+  build->add_option("--project", options.project, "project directory; else that of the first file")->type_name("DIR");
+  summary->add_option("--project", options.project, "project directory; else the current one")->type_name("DIR");
+  summary->add_option("--format", options.format, "form of the summary: text")
+      ->check(CLI::IsMember({"text"}))
+      ->type_name("FORM");
   drive->add_option("CONTROL_FILE", options.controlFile, "the control file to open")->type_name("");
+  graph->add_option("FILE", options.controlFile, "the control file of the run")->required()->type_name("");
+  auto* list = graph->add_flag("--list", options.list, "list the graphs, and which of them can be drawn");
+  auto* numbers = graph->add_option("--graph", options.graphs, "numbers of the graphs, 0 to 21, with commas between");
+  numbers->delimiter(',')->check(CLI::Range(0, kGraphs - 1))->type_name("N[,N...]")->excludes(list);
+  graph->add_option("--format", options.format, "png, svg, pdf or csv; else by the name of the output")
+      ->check(CLI::IsMember({"png", "svg", "pdf", "csv"}))
+      ->type_name("FORM")
+      ->needs(numbers);
+  graph->add_option("--size", options.size, "width and height in pixels, 1200x800 when not given")
+      ->check(CLI::Validator([](const std::string& size) { return sizeFault(size); }, "", "size"))
+      ->type_name("WxH")
+      ->needs(numbers);
+  auto* output = graph->add_option("-o,--output", options.output, "file to write; - for the standard output");
+  output->type_name("OUT")->needs(numbers);
+  numbers->needs(output);
   help->add_option("COMMAND", helpTopic, "the command to tell about")->type_name("");
 }
 
@@ -84,11 +119,21 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
     exitCode = tellHelp(grammar, out, err);
     return std::nullopt;
   }
-  if (grammar.newProject->parsed()) {
-    options.command = CliCommand::newProject;
+  const std::pair<const CLI::App*, CliCommand> commands[] = {
+      {grammar.newProject, CliCommand::newProject}, {grammar.build, CliCommand::build},
+      {grammar.check, CliCommand::check},           {grammar.summary, CliCommand::summary},
+      {grammar.graph, CliCommand::graph},           {grammar.drive, CliCommand::drive}};
+  for (const auto& [word, command] : commands) {
+    if (!word->parsed()) continue;
+    if (command == CliCommand::graph && !options.list && options.graphs.empty()) {
+      err << "kestra: graph needs --list or --graph\nRun kestra help for the commands.\n";
+      exitCode = kWrongUsage;
+      return std::nullopt;
+    }
+    options.command = command;
+    if (command == CliCommand::summary && options.format.empty()) options.format = "text";
     return options;
   }
-  if (grammar.drive->parsed()) return options;
   err << generalHelp();
   exitCode = kWrongUsage;
   return std::nullopt;

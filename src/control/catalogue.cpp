@@ -17,8 +17,8 @@ std::span<const RecordLayout> layoutsOf(RunKind run, std::string_view keyword) {
   return {first, std::find_if_not(first, records.end(), hasKeyword)};
 }
 
-const RecordLayout* findRecord(std::string_view id) {
-  const auto records = recordsOf(RunKind::main);
+const RecordLayout* findRecord(std::string_view id, RunKind run) {
+  const auto records = recordsOf(run);
   const auto found = std::ranges::find(records, id, &RecordLayout::id);
   return found == records.end() ? nullptr : &*found;
 }

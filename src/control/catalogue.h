@@ -67,13 +67,13 @@ std::span<const RecordLayout> recordsOf(RunKind run);
 // The layouts of a keyword (no synonym); empty for a keyword that the run does not know.
 std::span<const RecordLayout> layoutsOf(RunKind run, std::string_view keyword);
 
-// The record of that id in the main run; null when there is none.
-const RecordLayout* findRecord(std::string_view id);
+// The record of that id; null when there is none.
+const RecordLayout* findRecord(std::string_view id, RunKind run = RunKind::main);
 
 // The field of that name; null when there is none.
 const FieldLayout* findField(std::span<const FieldLayout> fields, std::string_view name);
 
-// A word that is accepted on input in place of another.
+// A word that is accepted on input in place of another, in the main run.
 struct Synonym {
   std::string_view accepted;
   std::string_view keyword;

@@ -19,14 +19,18 @@ bool endsRun(std::string_view line) {
   return last != std::string_view::npos && line[last] == kRunEnd.back() && trim(line) == kRunEnd;
 }
 
-// Walks the lines of a file and sorts them into runs.
+using RecordSink = std::function<void(const ControlRecord&)>;
+
+// Walks the lines of a file and sorts them into runs; or hands the records of the first run to a sink and keeps
+// nothing.
 class RunWalker {
  public:
-  explicit RunWalker(std::string_view text) : text_(text), lines_(text) {}
+  RunWalker(std::string_view text, RunKind first, const RecordSink* sink = nullptr)
+      : text_(text), lines_(text), next_(first), sink_(sink) {}
 
   std::vector<ControlRun> walk() {
     std::string_view line;
-    while (lines_.next(line)) take(line);
+    while (!done_ && lines_.next(line)) take(line);
     if (isOpen_) close(text_.size());
     return std::move(runs_);
   }
@@ -42,8 +46,8 @@ class RunWalker {
   // The run in progress; a new one when there is none.
   ControlRun& run() {
     if (!isOpen_) {
-      const RunKind kind = runs_.empty() ? RunKind::main : RunKind::spillway;
-      runs_.emplace_back().kind = kind;
+      runs_.emplace_back().kind = next_;
+      next_ = RunKind::spillway;
       isOpen_ = true;
     }
     return runs_.back();
@@ -61,40 +65,46 @@ class RunWalker {
     const bool isLast = endsRun(line);
     const RecordLayout* layout = recognise(run().kind, isLast ? kRunEnd : line);
     if (layout == nullptr) {
-      run().unknown.push_back({number, line});
-    } else {
-      run().records.push_back({layout, number, line, keywordOf(line), takeApart(*layout, line), {}});
-      if (layout->table) takeRows(run().records.back(), *layout->table);
+      if (sink_ == nullptr) run().unknown.push_back({number, line});
+      return;
     }
+    ControlRecord record{layout, number, line, keywordOf(line), takeApart(*layout, line), {}};
+    const std::string_view end = layout->table ? takeRows(record, *layout->table) : std::string_view();
+    sink_ == nullptr ? run().records.push_back(record) : (*sink_)(record);
     if (isLast) endRun(line);
+    if (!end.empty()) take(end);
   }
 
   void endRun(std::string_view line) {
     runs_.back().ended = true;
     close(offsetBehind(line));
+    done_ = sink_ != nullptr;
   }
 
-  void takeRows(ControlRecord& record, const TableLayout& table) {
+  // The line that ends the run and with it the table; empty where something else has closed the table.
+  std::string_view takeRows(ControlRecord& record, const TableLayout& table) {
     const std::size_t begin = offsetBehind(record.line);
     std::size_t end = text_.size();
     std::string_view line;
+    std::string_view ending;
     while (lines_.next(line)) {
       end = offsetOf(line);
-      if (endsRun(line)) {
-        record.rows = text_.substr(begin, end - begin);
-        return take(line);
-      }
-      if (!reaches(line, table.shortestRow) || line.starts_with(kTableEnd)) break;
+      if (endsRun(line)) ending = line;
+      if (!ending.empty() || !reaches(line, table.shortestRow) || line.starts_with(kTableEnd)) break;
       end = text_.size();
     }
     record.rows = text_.substr(begin, end - begin);
+    return ending;
   }
 
   std::string_view text_;
   LineReader lines_;
+  RunKind next_;  // kind of the run that begins next
+  const RecordSink* sink_;
   std::vector<ControlRun> runs_;
   std::size_t runStart_ = 0;
   bool isOpen_ = false;
+  bool done_ = false;
 };
 
 }  // namespace
@@ -133,7 +143,8 @@ std::vector<std::string_view> givenValues(const FieldTexts& texts) {
 }
 
 const RecordLayout* recognise(RunKind run, std::string_view line) {
-  const auto layouts = layoutsOf(run, canonicalKeyword(keywordOf(line)));
+  const std::string_view keyword = keywordOf(line);
+  const auto layouts = layoutsOf(run, run == RunKind::main ? canonicalKeyword(keyword) : keyword);
   const RecordLayout* unmarked = nullptr;
   for (const RecordLayout& layout : layouts) {
     if (layout.mark && bears(*layout.mark, line)) return &layout;
@@ -142,8 +153,12 @@ const RecordLayout* recognise(RunKind run, std::string_view line) {
   return unmarked;
 }
 
-std::vector<ControlRun> readControlRecords(std::string_view text) {
-  return RunWalker(text).walk();
+std::vector<ControlRun> readControlRecords(std::string_view text, RunKind first) {
+  return RunWalker(text, first).walk();
+}
+
+void eachRecord(std::string_view text, RunKind kind, const std::function<void(const ControlRecord&)>& take) {
+  RunWalker(text, kind, &take).walk();
 }
 
 }  // namespace kestra

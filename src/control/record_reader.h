@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -55,7 +56,7 @@ FieldTexts takeApartRow(const RecordLayout& record, std::string_view line);
 std::vector<std::string_view> givenValues(const FieldTexts& texts);
 
 // The layout of the line: the one whose mark it bears, else the keyword's layout without a mark, the first of them
-// where there are several (the line does not tell). Synonyms count. Null for an unknown keyword.
+// where there are several (the line does not tell). Synonyms count in the main run. Null for an unknown keyword.
 const RecordLayout* recognise(RunKind run, std::string_view line);
 
 struct ControlRecord {
@@ -83,7 +84,10 @@ struct ControlRun {
 // The runs of a control file, each up to the line that holds nothing but ENDRUN and blanks: the main run, then those of
 // the spillways. Lines behind the last ENDRUN are a run of their own unless all are empty; an empty text has no run.
 // A table ends at ENDTABLE, at a line too short to be its row (an empty one, mostly), or with its run. The line that
-// closes a table is taken with it.
-std::vector<ControlRun> readControlRecords(std::string_view text);
+// closes a table is taken with it. `first` is the kind of the first run, for the text of a spillway's run alone.
+std::vector<ControlRun> readControlRecords(std::string_view text, RunKind first = RunKind::main);
+
+// The records of the text's first run, of that kind, one after the other; what the reader keeps of them does not grow.
+void eachRecord(std::string_view text, RunKind kind, const std::function<void(const ControlRecord&)>& take);
 
 }  // namespace kestra

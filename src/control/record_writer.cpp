@@ -18,7 +18,8 @@ void appendPadded(std::string& out, std::string_view text, int width) {
     out.append(wanted, ' ');
     text.copy(out.data() + at, text.size());
   } else {
-    out += PadField(text, width);
+    const std::string_view kept = charsFrom(text, 0, wanted);
+    out.append(kept).append(wanted - charCount(kept), ' ');
   }
 }
 

@@ -3,18 +3,11 @@
 #include <array>
 #include <functional>
 #include <string>
-#include <variant>
-#include <vector>
 
 #include "controls/control.h"
+#include "graphics/canvas_log.h"
 
 namespace kestra {
-
-// One call on a canvas as it was made: "Line" with its numbers, "Print" with position and text, "Visible" with a flag.
-struct CanvasCall {
-  std::string name;
-  std::vector<std::variant<double, std::string, bool>> arguments;
-};
 
 struct MouseEvent {
   enum class Type { down, move, up, doubleClick };
@@ -24,44 +17,51 @@ struct MouseEvent {
   double y = 0;
 };
 
-// An area that is drawn on. It keeps the calls made since it was cleared, for whoever renders or inspects them.
-class CanvasControl : public Control {
+// An area that is drawn on. It keeps the calls made since it was wiped, for whoever renders or inspects them.
+class CanvasControl : public Control, public RecordingCanvas {
  public:
   CanvasControl(Screen& screen, std::string name) : Control(screen, std::move(name), ControlKind::canvas) {}
 
-  const std::array<double, 4>& scale() const { return scale_; }  // logical window: x1, y1, x2, y2
-  void setScale(const std::array<double, 4>& scale) {
-    scale_ = scale;
-    record({"Scale", {scale[0], scale[1], scale[2], scale[3]}});
-  }
-  const std::vector<CanvasCall>& calls() const { return calls_; }
-  void record(CanvasCall call) {
-    calls_.push_back(std::move(call));
-    changed(Property::drawing);
-  }
-  void clear() {
-    calls_.clear();
-    changed(Property::drawing);
+  // Shape of the mouse over it: an image of its screen's list; 0 the normal pointer.
+  int pointer() const { return pointer_; }
+  void setPointer(int image) {
+    pointer_ = image;
+    changed(Property::value);
   }
 
   void userMouse(const MouseEvent& event) {
+    mouse_ = event;
     if (onMouse) onMouse(event);
   }
+  void userDoubleClick() { userMouse({MouseEvent::Type::doubleClick, 1, mouse_.x, mouse_.y}); }  // where the mouse is
   void userKey(const Key& key) override {
     if (onKeyPress) onKeyPress(key);
   }
   void restoreDesign() override {
     Control::restoreDesign();
-    clear();
-    scale_ = {0, 0, 1, 1};
+    resetState();
+    wiped();
+    setPointer(0);
+    mouse_ = {};
   }
 
   std::function<void(const MouseEvent&)> onMouse;
   std::function<void(const Key&)> onKeyPress;
 
+ protected:
+  void take(CanvasOp op, const Numbers& numbers, std::string_view text) override {
+    RecordingCanvas::take(op, numbers, text);
+    if (op == CanvasOp::Visible) setVisible(numbers[0] != 0);
+    changed(Property::drawing);
+  }
+  void wiped() override {
+    RecordingCanvas::wiped();
+    changed(Property::drawing);
+  }
+
  private:
-  std::array<double, 4> scale_ = {0, 0, 1, 1};
-  std::vector<CanvasCall> calls_;
+  int pointer_ = 0;
+  MouseEvent mouse_;
 };
 
 }  // namespace kestra

@@ -18,6 +18,9 @@ class ModalLoop {
   virtual void run(Screen& screen) = 0;
 };
 
+// How the windows are laid out on the desk.
+enum class WindowArrangement { cascade, tile };
+
 // The screens of the system, which of them are on show, in which order, and where the focus is.
 class ScreenHost {
  public:
@@ -47,6 +50,7 @@ class ScreenHost {
 
   std::function<void(Screen&, Control&)> onEdited;  // the user changed the input of a screen
   std::function<void(Screen&)> onShown;
+  std::function<void(WindowArrangement)> onArrange;  // the user wants it; whoever shows the windows does it
 
  private:
   friend class Screen;

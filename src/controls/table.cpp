@@ -132,6 +132,7 @@ void Table::restoreDesign() {
   std::fill(std::copy(designCells_.begin(), designCells_.end(), cells_.begin()), cells_.end(), std::string());
   changed(Property::cells);
   setCursor({size_.fixedRows, size_.fixedColumns});
+  if (onCursorMoved) onCursorMoved();
 }
 
 }  // namespace kestra

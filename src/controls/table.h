@@ -78,7 +78,7 @@ class Table : public Control {
 
   std::function<void(const Key&)> onKeyPress;
   std::function<void()> onEdited;       // cells were written by the user
-  std::function<void()> onCursorMoved;  // by the user
+  std::function<void()> onCursorMoved;  // by the user, or when the design is restored
   std::function<void()> onDoubleClick;
 
  private:

@@ -97,14 +97,22 @@ void UndoHistory::add(std::unique_ptr<UndoChange> change, bool isData) {
   open_.hasData = open_.hasData || isData;
 }
 
-// Takes a finished step in, joined to the one before it when both are keys typed into one place.
+// Keys typed into one place are one step, and so is what a step begins and a later gesture goes on with.
+bool UndoHistory::joinsLast(const Step& step) const {
+  if (done_.empty()) return false;
+  const Step& last = done_.back();
+  const auto isContinued = [&step](const auto& change) { return change->control() == step.continues; };
+  if (step.continues != nullptr) return std::any_of(last.changes.begin(), last.changes.end(), isContinued);
+  return step.place != nullptr && undone_.empty() && last.place == step.place && last.cell == step.cell;
+}
+
+// Takes a finished step in, or joins it to the one before it.
 void UndoHistory::take(Step step) {
   for (const auto& change : step.changes) {
     change->settle();
     step.bytes += change->bytes();
   }
-  const bool joins = step.place != nullptr && undone_.empty() && !done_.empty() && done_.back().place == step.place &&
-                     done_.back().cell == step.cell;
+  const bool joins = joinsLast(step);
   undone_.clear();
   if (joins) {
     bytes_ -= done_.back().bytes;

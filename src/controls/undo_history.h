@@ -24,6 +24,7 @@ class UndoChange {
   using Place = std::pair<const void*, std::size_t>;
   virtual Place what() const = 0;  // the value that it keeps, or the first of them
   virtual bool keepsOne() const { return true; }
+  virtual const Control* control() const { return nullptr; }  // that shows the value
 };
 
 // What the user's gestures have changed on the screens that hold input, a step a gesture, with all that the handlers
@@ -38,6 +39,8 @@ class UndoHistory {
   // table, that a key was typed into; null for every other gesture.
   void beginGesture(const Control* place, std::size_t cell = 0);
   void endGesture();
+  // The open gesture goes on with what the last step began, and becomes part of it: where that step changed `control`.
+  void continueStepOf(const Control& control) { open_.continues = &control; }
   bool recording() const { return depth_ > 0 && !applying_; }
 
   // Keep a value before it is changed, within a gesture. `control` is told when it is swapped; null for a value that no
@@ -64,6 +67,7 @@ class UndoHistory {
     std::vector<std::unique_ptr<UndoChange>> changes;
     const Control* place = nullptr;
     std::size_t cell = 0;
+    const Control* continues = nullptr;
     bool hasData = false;
     std::size_t bytes = 0;
   };
@@ -71,6 +75,7 @@ class UndoHistory {
   void add(std::unique_ptr<UndoChange> change, bool isData);
   void take(Step step);
   void trim();
+  bool joinsLast(const Step& step) const;
   static void join(Step& last, Step step);
   static void swapAll(Step& step, bool backwards);
 
@@ -105,6 +110,7 @@ class KeptValue : public UndoChange {
   }
   std::size_t bytes() const override { return sizeof *this + heldBytes(kept_); }
   Place what() const override { return {&value_, 0}; }
+  const Control* control() const override { return control_; }
 
  private:
   T& value_;

@@ -52,6 +52,14 @@ long long storedNumber(SettingsStore& settings, const std::string& section, std:
   return stored && *stored >= lowest && *stored <= highest ? *stored : otherwise;
 }
 
+// Sets an item of a list that is kept from `first` on.
+template <class List, class Item>
+Status setItem(SettingsStore& settings, const std::string& section, List& list, int first, int index, Item item) {
+  if (index < first || index >= static_cast<int>(list.size())) return Done();
+  list[static_cast<std::size_t>(index)] = item;
+  return settings.set(section, {{std::to_string(index), std::to_string(item)}});
+}
+
 }  // namespace
 
 void LineSettings::InitColors(SettingsStore& settings, EntropySource& entropy) {
@@ -69,6 +77,30 @@ void LineSettings::InitLines(SettingsStore& settings) {
     ComboList[i] = static_cast<int>(storedNumber(settings, "ComboList", i, 0, 0, 4));
     WidthList[i] = static_cast<int>(storedNumber(settings, "WidthList", i, thin ? 1 : 2, 1, 4));
   }
+}
+
+Status LineSettings::setColor(SettingsStore& settings, int index, std::uint32_t color) {
+  Status kept = setItem(settings, "ColorList", ColorList, 0, index, color);
+  std::copy_n(ColorList.begin(), customColors.size(), customColors.begin());
+  return kept;
+}
+
+Status LineSettings::setStyle(SettingsStore& settings, int index, int style) {
+  return setItem(settings, "ComboList", ComboList, 1, index, style);
+}
+
+Status LineSettings::setWidth(SettingsStore& settings, int index, int width) {
+  return setItem(settings, "WidthList", WidthList, 1, index, width);
+}
+
+bool LineSettings::PickAllColors(Dialogs& dialogs) {
+  if (!dialogs.chooseCustomColors(customColors)) return false;
+  std::copy(customColors.begin(), customColors.end(), ColorList.begin());
+  return true;
+}
+
+std::optional<std::uint32_t> PickColor(Dialogs& dialogs, std::uint32_t start) {
+  return dialogs.chooseColor(start);
 }
 
 }  // namespace kestra

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
+#include "platform/dialogs.h"
 #include "platform/settings_store.h"
 #include "platform/small_ports.h"
 
@@ -20,6 +22,18 @@ struct LineSettings {
   // not a number of its range counts as not set.
   void InitColors(SettingsStore& settings, EntropySource& entropy);
   void InitLines(SettingsStore& settings);
+
+  // Change one item and keep it in the settings at once; on failure it holds for this run. An index outside its list
+  // changes nothing.
+  Status setColor(SettingsStore& settings, int index, std::uint32_t color);
+  Status setStyle(SettingsStore& settings, int index, int style);
+  Status setWidth(SettingsStore& settings, int index, int width);
+
+  // The colour dialog with all custom colours: when it is confirmed they become the colours 0 to 15.
+  bool PickAllColors(Dialogs& dialogs);
 };
+
+// The colour dialog, `start` being chosen in it at first; nothing when it is cancelled.
+std::optional<std::uint32_t> PickColor(Dialogs& dialogs, std::uint32_t start);
 
 }  // namespace kestra

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -40,6 +41,9 @@ class Dialogs {
   virtual std::optional<std::string> chooseDirectory(const std::string& title, const std::string& start) = 0;
   // Colours are numbers with red in the low byte: red + 256 * green + 65536 * blue.
   virtual std::optional<std::uint32_t> chooseColor(std::uint32_t start) = 0;
+  // The custom colours of the colour dialog; true, and they are as the user left them, when it is confirmed. Where the
+  // dialog has no custom colours they stay.
+  virtual bool chooseCustomColors(std::array<std::uint32_t, 16>& colors) { return chooseColor(colors[0]).has_value(); }
   virtual std::optional<FontChoice> chooseFont(const FontChoice& start) = 0;
   virtual std::optional<PrintChoice> choosePrint(const PrintChoice& start) = 0;
 };

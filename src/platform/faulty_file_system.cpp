@@ -72,6 +72,11 @@ Result<std::string> FaultyFileSystem::read(const std::string& path, std::uint64_
   return inner_.read(path, limit);
 }
 
+Result<std::string> FaultyFileSystem::readStart(const std::string& path, std::uint64_t most) {
+  if (const Failure* f = fault("readStart", path)) return *f;
+  return inner_.readStart(path, most);
+}
+
 Result<std::vector<DirectoryEntry>> FaultyFileSystem::list(const std::string& path) {
   if (const Failure* f = fault("list", path)) return *f;
   return inner_.list(path);
@@ -89,7 +94,16 @@ Status FaultyFileSystem::makeDirectory(const std::string& path) {
 
 Result<std::unique_ptr<OutputFile>> FaultyFileSystem::createNew(const std::string& path) {
   if (const Failure* f = fault("createNew", path)) return *f;
-  Result<std::unique_ptr<OutputFile>> file = inner_.createNew(path);
+  return watched(inner_.createNew(path), path);
+}
+
+Result<std::unique_ptr<OutputFile>> FaultyFileSystem::append(const std::string& path) {
+  if (const Failure* f = fault("append", path)) return *f;
+  return watched(inner_.append(path), path);
+}
+
+Result<std::unique_ptr<OutputFile>> FaultyFileSystem::watched(Result<std::unique_ptr<OutputFile>> file,
+                                                              const std::string& path) {
   if (!file) return file.failure();
   return std::unique_ptr<OutputFile>(std::make_unique<Output>(*this, std::move(file).value(), path));
 }

@@ -23,10 +23,12 @@ class FaultyFileSystem : public FileSystem {
   Result<FileStatus> status(const std::string& path) override;
   Result<FileStatus> linkStatus(const std::string& path) override;
   Result<std::string> read(const std::string& path, std::uint64_t limit) override;
+  Result<std::string> readStart(const std::string& path, std::uint64_t most) override;
   Result<std::vector<DirectoryEntry>> list(const std::string& path) override;
   Result<std::string> canonical(const std::string& path) override;
   Status makeDirectory(const std::string& path) override;
   Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) override;
+  Result<std::unique_ptr<OutputFile>> append(const std::string& path) override;
   Status rename(const std::string& from, const std::string& to) override;
   Status syncDirectory(const std::string& path) override;
   Status removeFile(const std::string& path) override;
@@ -41,6 +43,7 @@ class FaultyFileSystem : public FileSystem {
  private:
   class Output;
 
+  Result<std::unique_ptr<OutputFile>> watched(Result<std::unique_ptr<OutputFile>> file, const std::string& path);
   // Counts the call; the failure that it has to give, if any.
   const Failure* fault(const char* operation, const std::string& path);
 

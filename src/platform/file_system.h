@@ -50,12 +50,16 @@ class FileSystem {
   virtual Result<FileStatus> linkStatus(const std::string& path) = 0;  // of the link itself
   // The whole file; tooLarge above `limit` bytes; wrongType for a directory or a device.
   virtual Result<std::string> read(const std::string& path, std::uint64_t limit) = 0;
+  // The first `most` bytes of a file, or all of a shorter one; fails as read does, but never for the size.
+  virtual Result<std::string> readStart(const std::string& path, std::uint64_t most) = 0;
   virtual Result<std::vector<DirectoryEntry>> list(const std::string& path) = 0;  // sorted by name, without . and ..
   virtual Result<std::string> canonical(const std::string& path) = 0;             // absolute, links resolved
 
   virtual Status makeDirectory(const std::string& path) = 0;  // one level; exists when something stands there
   virtual Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) = 0;  // exists when there is one
-  virtual Status rename(const std::string& from, const std::string& to) = 0;           // replaces a file at `to`
+  // The file that stands there, to write behind its end, or a new one; wrongType for a directory or a device.
+  virtual Result<std::unique_ptr<OutputFile>> append(const std::string& path) = 0;
+  virtual Status rename(const std::string& from, const std::string& to) = 0;  // replaces a file at `to`
   virtual Status syncDirectory(const std::string& path) = 0;    // makes creations and renames in it durable
   virtual Status removeFile(const std::string& path) = 0;       // a file, or a link itself
   virtual Status removeDirectory(const std::string& path) = 0;  // an empty one

@@ -63,12 +63,14 @@ Result<Temporary> createTemporary(FileSystem& files, const std::string& director
   }
 }
 
-Status fill(FileSystem& files, const Target& target, Temporary& temporary, std::string_view bytes) {
+Status fill(FileSystem& files, const Target& target, Temporary& temporary, std::string_view bytes, Durable durable) {
   if (target.replaces) {
     if (Status status = files.copyMode(target.path, temporary.path); !status) return status;
   }
   if (Status status = temporary.file->write(bytes); !status) return status;
-  if (Status status = temporary.file->sync(); !status) return status;
+  if (durable == Durable::yes) {
+    if (Status status = temporary.file->sync(); !status) return status;
+  }
   if (Status status = temporary.file->close(); !status) return status;
   return files.rename(temporary.path, target.path);
 }
@@ -102,20 +104,20 @@ bool isDirectory(FileSystem& files, const std::string& path) {
   return status && status.value().type == FileStatus::Type::directory;
 }
 
-Status writeWholeFile(FileSystem& files, const std::string& path, std::string_view bytes) {
+Status writeWholeFile(FileSystem& files, const std::string& path, std::string_view bytes, Durable durable) {
   const Result<Target> target = findTarget(files, path);
   if (!target) return target.failure();
   Result<Temporary> created = createTemporary(files, target.value().directory);
   if (!created) return Failure{created.failure().kind, path, created.failure().reason};
   Temporary temporary = std::move(created).value();
-  const Status filled = fill(files, target.value(), temporary, bytes);
+  const Status filled = fill(files, target.value(), temporary, bytes, durable);
   if (!filled) {
     temporary.file.reset();
     // When even this fails the stray does no harm; the first failure is the one to tell.
     (void)files.removeFile(temporary.path);
     return Failure{filled.failure().kind, path, filled.failure().reason};
   }
-  return files.syncDirectory(target.value().directory);
+  return durable == Durable::yes ? files.syncDirectory(target.value().directory) : Status(Done());
 }
 
 Status removeTree(FileSystem& files, const std::string& path) {

@@ -99,15 +99,28 @@ Result<FileStatus> MemoryFileSystem::linkStatus(const std::string& path) {
   return statusOf(*place.value().node);
 }
 
-Result<std::string> MemoryFileSystem::read(const std::string& path, std::uint64_t limit) {
-  note("read", path);
+Result<const std::string*> MemoryFileSystem::bytesOf(const std::string& path) const {
   const Result<Place> place = find(path, true);
   if (!place) return place.failure();
   const Node& node = *place.value().node;
   if (!node.readable) return denied(path);
   if (node.type == Type::directory) return aDirectory(path);
-  if (node.bytes.size() > limit) return Failure{FailureKind::tooLarge, path, "File too large"};
-  return node.bytes;
+  return &node.bytes;
+}
+
+Result<std::string> MemoryFileSystem::read(const std::string& path, std::uint64_t limit) {
+  note("read", path);
+  const auto bytes = bytesOf(path);
+  if (!bytes) return bytes.failure();
+  if (bytes.value()->size() > limit) return Failure{FailureKind::tooLarge, path, "File too large"};
+  return *bytes.value();
+}
+
+Result<std::string> MemoryFileSystem::readStart(const std::string& path, std::uint64_t most) {
+  note("readStart", path);
+  const auto bytes = bytesOf(path);
+  if (!bytes) return bytes.failure();
+  return bytes.value()->substr(0, most);
 }
 
 Result<std::vector<DirectoryEntry>> MemoryFileSystem::list(const std::string& path) {
@@ -145,6 +158,21 @@ Result<std::unique_ptr<OutputFile>> MemoryFileSystem::createNew(const std::strin
   if (!place) return place.failure();
   const NodePtr node = makeNode(Type::file, clockNs);
   place.value().directory->children[place.value().name] = node;
+  return std::unique_ptr<OutputFile>(std::make_unique<Output>(*this, node, place.value().path));
+}
+
+Result<std::unique_ptr<OutputFile>> MemoryFileSystem::append(const std::string& path) {
+  note("append", path);
+  const Result<Place> place = walk(root_, current_, path, true);
+  if (!place) return place.failure();
+  NodePtr node = place.value().node;
+  if (!node) {
+    if (!place.value().directory->writable) return denied(path);
+    node = makeNode(Type::file, clockNs);
+    place.value().directory->children[place.value().name] = node;
+  }
+  if (node->type == Type::directory) return aDirectory(path);
+  if (!node->writable) return denied(path);
   return std::unique_ptr<OutputFile>(std::make_unique<Output>(*this, node, place.value().path));
 }
 

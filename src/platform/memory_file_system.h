@@ -19,10 +19,12 @@ class MemoryFileSystem : public FileSystem {
   Result<FileStatus> status(const std::string& path) override;
   Result<FileStatus> linkStatus(const std::string& path) override;
   Result<std::string> read(const std::string& path, std::uint64_t limit) override;
+  Result<std::string> readStart(const std::string& path, std::uint64_t most) override;
   Result<std::vector<DirectoryEntry>> list(const std::string& path) override;
   Result<std::string> canonical(const std::string& path) override;
   Status makeDirectory(const std::string& path) override;
   Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) override;
+  Result<std::unique_ptr<OutputFile>> append(const std::string& path) override;
   Status rename(const std::string& from, const std::string& to) override;
   Status syncDirectory(const std::string& path) override;
   Status removeFile(const std::string& path) override;
@@ -58,7 +60,8 @@ class MemoryFileSystem : public FileSystem {
   void note(std::string_view operation, const std::string& from, const std::string& to);
   Result<Place> find(const std::string& path, bool followLast) const;  // notFound when there is nothing
   Result<Place> findFree(const std::string& path) const;  // exists when taken, denied in a read-only directory
-  NodePtr at(const std::string& path) const;              // links not followed; what has to be there
+  Result<const std::string*> bytesOf(const std::string& path) const;  // of a file that may be read
+  NodePtr at(const std::string& path) const;                          // links not followed; what has to be there
 
   NodePtr root_;
   std::string current_ = "/";

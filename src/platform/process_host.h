@@ -12,6 +12,7 @@ struct ProcessRequest {
   std::vector<std::string> arguments;  // without the program itself
   std::string directory;               // where it runs; empty: where this program stands
   std::string outputFile;              // takes its standard output and error; empty: thrown away
+  bool appendsOutput = false;          // behind what stands in the file; else the file is emptied before the start
 };
 
 struct Exited {

@@ -50,10 +50,19 @@ class MemorySettings : public SettingsStore {
 class MemoryClipboard : public Clipboard {
  public:
   std::string text() override { return text_; }
-  void setText(const std::string& text) override { text_ = text; }
+  void setText(const std::string& text) override {
+    text_ = text;
+    picture_.clear();
+  }
+  void setPicture(const std::string& bitmap) override {
+    picture_ = bitmap;
+    text_.clear();
+  }
+  const std::string& picture() const { return picture_; }
 
  private:
   std::string text_;
+  std::string picture_;
 };
 
 class RecordingBeeper : public Beeper {

@@ -6,12 +6,13 @@
 // The ports with one operation or two.
 namespace kestra {
 
-// The text on the clipboard.
+// The text on the clipboard, or the picture that took its place.
 class Clipboard {
  public:
   virtual ~Clipboard() = default;
   virtual std::string text() = 0;  // empty when there is none
   virtual void setText(const std::string& text) = 0;
+  virtual void setPicture(const std::string& bitmap) = 0;  // the bytes of a .bmp file
 };
 
 // The sound with which a key is refused.

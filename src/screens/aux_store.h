@@ -40,7 +40,8 @@ struct AuxProfile {
   bool chkBarrier = false;
   std::string txtBarrier;
   std::array<FillChoice, 2> fill = {FillChoice::none, FillChoice::none};
-  std::array<std::string, 2> materNum;  // material of each fill: in place the one chosen, external the number behind
+  std::array<std::string, 2> materNum;    // material of each fill: in place the one chosen, external the number behind
+  std::array<Distribution, 2> hydroDist;  // of the inflow: peak, duration; no screen shows them
 
   bool operator==(const AuxProfile&) const = default;
 };

@@ -1,7 +1,6 @@
 #include "screens/frm_aux_spillway_profile.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "base/numbers.h"
 #include "controls/screen_host.h"
@@ -73,9 +72,11 @@ void frmAuxSpillwayProfile::prepareTables() {
 
 void frmAuxSpillwayProfile::prepareFields() {
   const auto check = [this](TextBox& box, std::size_t place, const char* message) {
-    box.onChange = [this, place] { changed_[place] = true; };
+    box.onChange = [this, place] { setChanged(place, true); };
     box.onLeave = [this, &box, place, message] {
-      if (std::exchange(changed_[place], false)) checkNotNegative(box, message);
+      if (!changed_[place]) return;
+      setChanged(place, false);
+      checkNotNegative(box, message);
     };
   };
   check(txtBottom, 0, "Bottom Width must be greater than or equal to 0.");
@@ -202,6 +203,11 @@ void frmAuxSpillwayProfile::editConditions(const std::function<void()>& command,
   for (std::size_t i = 0; i < depths.size(); ++i) grdCond.setCell(kRootDepth, static_cast<int>(i) + 1, depths[i]);
 }
 
+void frmAuxSpillwayProfile::setChanged(std::size_t place, bool changed) {
+  keep(changed_[place], false);
+  changed_[place] = changed;
+}
+
 void frmAuxSpillwayProfile::checkNotNegative(TextBox& box, const char* message) {
   if (lenientNumber(box.text()) >= 0) return;
   dataCheck(message);
@@ -215,7 +221,8 @@ void frmAuxSpillwayProfile::condKey(const Key& key) {
   const int lastRow = lastCondition();
   if ((key.name == "Down" || key.name == "PageDown") && row >= lastRow) return;
   const bool types = key.name.empty() && key.character != kBackspace && key.character != kEnter;
-  const bool full = row == kRetardance && condEditor_.tempStr.size() >= 2;
+  const bool typing = condEditor_.tempStr == grdCond.currentText();  // else the next key begins a new text
+  const bool full = row == kRetardance && typing && condEditor_.tempStr.size() >= 2;
   if (row > lastRow ? key.name.empty() : types && full) return context_.base.ports.beeper.beep();
   condEditor_.key(key);
   if (row <= lastRow && grdCond.cursor().row > lastRow) grdCond.setCursor({lastRow, grdCond.cursor().column});

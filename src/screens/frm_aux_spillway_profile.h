@@ -135,7 +135,10 @@ class frmAuxSpillwayProfile : public InputScreen {
  protected:
   void load() override;
   void activate() override;
-  void unload() override { shown_ = {}; }
+  void unload() override {
+    shown_ = {};
+    changed_ = {};
+  }
   void goNext() override;
   void goPrevious() override;
   void goHome() override;
@@ -164,6 +167,7 @@ class frmAuxSpillwayProfile : public InputScreen {
   void editConditions(const std::function<void()>& command, bool wholeTable);
   void clipSelection();
   int lastCondition() const;  // the last row of grdCond that is shown
+  void setChanged(std::size_t place, bool changed);
   void checkNotNegative(TextBox& box, const char* message);
   void condKey(const Key& key);
   bool condEnter();

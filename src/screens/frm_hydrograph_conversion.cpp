@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "base/numbers.h"
 #include "base/runtime_fault.h"
@@ -11,10 +12,13 @@
 namespace kestra {
 
 void frmHydrographData::convert() {
-  if (optConst.selected()) return convertToVariable(lenientNumber(txtConst.text()));
+  if (optConst.selected()) {
+    const double dt = lenientNumber(txtConst.text());
+    return dt > 0 ? convertToVariable(dt) : refuse(txtConst, kConstantStep);
+  }
   const double dtNew = lenientNumber(txtDesired.text());
   if (dtNew <= 0 && !loadTiQiArrays(varTable).times.empty()) {
-    return refuse(txtDesired, "Time increment must greater than 0.");
+    return refuse(txtDesired, kFinalStep);
   }
   const double dtOld = trim(txtConst.text()).empty() ? dtNew : lenientNumber(txtConst.text());
   const double rows = std::nearbyint(1 + varTable.rows() * dtOld / dtNew);
@@ -48,8 +52,13 @@ void frmHydrographData::convertToVariable(double dt) {
 
 void frmHydrographData::convertToConstant(double dt, int rows) {
   const Gesture gesture(host().history(), nullptr);
+  const HydrographPoints points = loadTiQiArrays(varTable);
+  if (const auto fall = std::is_sorted_until(points.times.begin(), points.times.end()); fall != points.times.end()) {
+    return warn("Times must be increasing: " + decimalNumber(*fall) + " follows " + decimalNumber(*std::prev(fall)) +
+                ".");
+  }
   ResampledHydrograph resampled;
-  if (!resample(dt, loadTiQiArrays(varTable), resampled)) return;
+  if (!resample(dt, points, resampled)) return;
   grdTable.growTo(rows);
   selectForm(true);
   setIncrement(tenCharacters(resampled.step));
@@ -58,15 +67,14 @@ void frmHydrographData::convertToConstant(double dt, int rows) {
 }
 
 void frmHydrographData::retimeHydrograph(double oldDt, double newDt) {
-  retime(oldDt, newDt);
+  retime(oldDt, newDt, txtConst.text());
 }
 
-bool frmHydrographData::retime(double oldDt, double newDt) {
+bool frmHydrographData::retime(double oldDt, double newDt, const std::string& shown) {
   const Gesture gesture(host().history(), nullptr);
   ResampledHydrograph resampled;
   if (!resample(newDt, constantPoints(grdTable, oldDt), resampled)) return false;
-  const bool shown = lenientNumber(txtConst.text()) == resampled.step;
-  setIncrement(shown ? txtConst.text() : tenCharacters(resampled.step));
+  setIncrement(lenientNumber(shown) == resampled.step ? shown : tenCharacters(resampled.step));
   takeFlows(resampled);
   return true;
 }
@@ -76,18 +84,20 @@ bool frmHydrographData::resample(double dt, const HydrographPoints& points, Resa
     result = resampleHydrograph(dt, points);
     return true;
   } catch (const RuntimeFault& fault) {
-    context_.base.ports.boxes.tell("Hydrograph Error", fault.what(), BoxIcon::warning);
+    warn(fault.what());
     return false;
   }
+}
+
+void frmHydrographData::warn(const std::string& text) {
+  context_.base.ports.boxes.tell("Hydrograph Error", text, BoxIcon::warning);
 }
 
 // Fills the constant-time table; the times are those of the step that was used, of which the user sees ten characters.
 void frmHydrographData::takeFlows(const ResampledHydrograph& resampled) {
   if (resampled.flows.size() > static_cast<std::size_t>(kMostHydrographPoints)) {
     const std::string count = std::to_string(resampled.flows.size());
-    context_.base.ports.boxes.tell("Hydrograph Error",
-                                   "Too many points. Hydrograph truncated from " + count + " to 5000 points.",
-                                   BoxIcon::warning);
+    warn("Too many points. Hydrograph truncated from " + count + " to 5000 points.");
   }
   fillFlows(grdTable, resampled.flows);
   setRowNum(resampled.step);

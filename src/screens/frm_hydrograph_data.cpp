@@ -4,6 +4,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "controls/screen_host.h"
 #include "controls/undo_history.h"
 #include "screens/frm_project_information.h"
 
@@ -68,6 +69,7 @@ void frmHydrographData::load() {
 void frmHydrographData::unload() {
   lastConst.clear();
   bConstChanged = bTitleChanged = bConverted = false;
+  hydrographSelected = 0;
 }
 
 void frmHydrographData::clearTable() {
@@ -175,20 +177,30 @@ void frmHydrographData::leaveIncrement() {
   if (txtConst.text().empty()) return;
   const double dt = lenientNumber(txtConst.text());
   const double before = lenientNumber(lastConst);
-  if (dt <= 0) return refuse(txtConst, "Constant time increment must greater than 0.");
+  if (dt <= 0) return refuse(txtConst, kConstantStep);
   if (!changed || dt == before) return;
   if (before <= 0) {
     setRowNum(dt);
     setLastConst(txtConst.text());
-  } else if (!retime(before, dt)) {
-    txtConst.setText(lastConst);
-    txtConst.takeFocus();
+  } else {
+    resampleAsTyped(before, dt);
   }
+}
+
+// The increment that was typed and the discharges at its steps are undone together: neither fits without the other.
+void frmHydrographData::resampleAsTyped(double before, double dt) {
+  UndoHistory* const history = host().history();
+  const std::string typed = txtConst.text();
+  host().setHistory(nullptr);
+  txtConst.setText(lastConst);  // what the resampling is undone to, whatever was done since the typing
+  host().setHistory(history);
+  if (history != nullptr) history->continueStepOf(txtConst);
+  if (!retime(before, dt, typed)) txtConst.takeFocus();
 }
 
 void frmHydrographData::leaveDesired() {
   if (txtDesired.text().empty() || lenientNumber(txtDesired.text()) > 0) return;
-  refuse(txtDesired, "Time increment must greater than 0.");
+  refuse(txtDesired, kFinalStep);
 }
 
 void frmHydrographData::leaveTitle() {

@@ -59,6 +59,7 @@ class frmHydrographData : public InputScreen {
   bool bConstChanged = false;  // the user has changed txtConst since it was last looked at
   bool bTitleChanged = false;  // likewise txtTitle
   bool bConverted = false;     // a conversion has been made
+  int hydrographSelected = 0;  // index of the one that was chosen last in a QT40 file
 
   void clearTable();  // blanks the cells of the table on show; the cursor goes to the first of them
   // Writes the time column of grdTable: 0, dt, 2 dt, ... hours.
@@ -85,6 +86,9 @@ class frmHydrographData : public InputScreen {
   void undone() override;
 
  private:
+  static constexpr const char* kConstantStep = "Constant time increment must greater than 0.";
+  static constexpr const char* kFinalStep = "Time increment must greater than 0.";
+
   Table& tableOnShow() { return optConst.selected() ? grdTable : varTable; }
   bool breach() const;  // whether the dam may breach
   void showForm();      // what belongs to the selected option
@@ -92,12 +96,15 @@ class frmHydrographData : public InputScreen {
   void convert();
   void convertToVariable(double dt);
   void convertToConstant(double dt, int rows);  // grdTable grows to `rows`
-  bool retime(double oldDt, double newDt);      // false, after a box, when nothing was changed
+  // False, after a box, when nothing was changed. `shown` is the text of the new step.
+  bool retime(double oldDt, double newDt, const std::string& shown);
   bool resample(double dt, const HydrographPoints& points, ResampledHydrograph& result);
   void takeFlows(const ResampledHydrograph& resampled);
   void leaveIncrement();
+  void resampleAsTyped(double before, double dt);
   void leaveDesired();
   void leaveTitle();
+  void warn(const std::string& text);  // under "Hydrograph Error"
   void refuse(TextBox& field, const std::string& text);
   void intoData(Table& table);
   void setLastConst(const std::string& text);

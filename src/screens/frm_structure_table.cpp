@@ -1,9 +1,13 @@
 #include "screens/frm_structure_table.h"
 
+#include <algorithm>
+
+#include "base/text.h"
 #include "controls/undo_history.h"
 #include "platform/files.h"
 #include "screens/file_choice.h"
 #include "screens/frm_project_information.h"
+#include "screens/hydrograph_fault.h"
 
 namespace kestra {
 namespace {
@@ -13,10 +17,17 @@ constexpr const char* kHeadings[] = {"Elevation, ft", "Principal Spillway Discha
 constexpr const char* kStructureFilter = "All Files (*.*)|*.*|Structure Table Files (*.STR)|*.STR";
 constexpr const char* kTextFilter = "All Files (*.*)|*.*|Text Files (*.txt)|*.txt";
 constexpr const char* kTorveFilter = "All Files (*.*)|*.*| Torve Output File (*.OUT)|*.OUT";
+constexpr const char* kFileBox = "Select File";  // title of what is told of a file that was read
 constexpr NoNameBox kNoFile = {"Select a File", "No filename is provided"};
 
 FileDialog dialog(FileDialog::Kind kind, const char* title, const char* filter) {
   return {kind, title, filter, 2, {}, false};
+}
+
+bool holdsValues(const std::vector<StructureRow>& rows) {
+  const auto filled = [](const std::string& text) { return !trim(text).empty(); };
+  return std::any_of(rows.begin(), rows.end(),
+                     [&filled](const StructureRow& row) { return std::any_of(row.begin(), row.end(), filled); });
 }
 
 TableRules rules() {
@@ -93,12 +104,27 @@ void frmStructureTable::mnuOpen_Click() {
   if (!text) return;
   const auto file = readStructureFile(text.value());
   if (!file) {
-    ports.boxes.tell("Select File", "The selected file is not in the correct format.", BoxIcon::warning);
+    ports.boxes.tell(kFileBox, "The selected file is not in the correct format.", BoxIcon::warning);
     return;
   }
   const Gesture gesture(host().history(), nullptr);
-  takeRows(file->rows);
-  if (file->identifier) txtStructureID.setText(*file->identifier);
+  if (takeFile(*name, *file) && file->identifier) txtStructureID.setText(*file->identifier);
+}
+
+bool frmStructureTable::takeFile(const std::string& path, const StructureFile& file) {
+  const auto tell = [this](const std::string& text) {
+    context_.base.ports.boxes.tell(kFileBox, text, BoxIcon::warning);
+  };
+  const bool taken = holdsValues(file.rows) || (file.ended && file.fault.empty());
+  if (taken) takeRows(file.rows);
+  if (!file.fault.empty()) {
+    tell(path + ", " + file.fault);
+  } else if (!taken) {
+    tell("The file holds no points.");
+  } else if (file.points > file.rows.size()) {
+    tell(morePointsThanTaken(file.points, file.rows.size()));
+  }
+  return taken;
 }
 
 void frmStructureTable::mnuSave_Click() {
@@ -111,7 +137,10 @@ void frmStructureTable::mnuImport_Click() {
   const auto file = chooseNamedFile(ports, dialog(FileDialog::Kind::open, "Select a file", kTextFilter), kNoFile);
   if (!file) return;
   const auto text = readLines(ports, *file);
-  if (text) takeRows(readStructureTabs(text.value(), static_cast<std::size_t>(grdTable.rows() - 1)));
+  if (!text) return;
+  StructureFile read;
+  read.rows = readStructureTabs(text.value(), static_cast<std::size_t>(grdTable.rows() - 1), &read.fault, &read.points);
+  takeFile(*file, read);
 }
 
 void frmStructureTable::mnuExport_Click() {
@@ -121,7 +150,11 @@ void frmStructureTable::mnuExport_Click() {
 }
 
 void frmStructureTable::saveStructureTable(const std::string& fileName) {
-  (void)writeWholeFile(context_.base.ports.files, fileName, structureFileText(txtStructureID.text(), rows()));
+  Ports& ports = context_.base.ports;
+  const std::string tooLong = valuesTooLong(rows());
+  if (!writeWholeFile(ports.files, fileName, structureFileText(txtStructureID.text(), rows()))) return;
+  if (tooLong.empty()) return;
+  ports.boxes.tell("Save File", "These values do not fit their ten columns: " + tooLong + ".", BoxIcon::warning);
 }
 
 std::vector<StructureRow> frmStructureTable::rows() const {

@@ -31,7 +31,9 @@ class frmStructureTable : public InputScreen {
   EditMenu editMenu;
 
   // File operations. A dialog that is cancelled and a file that cannot be read or written end them without a word; the
-  // table is blanked once a file of the right form has been read.
+  // table is blanked once a file of the right form has been read. A .STR file or text that holds nothing is told and
+  // changes nothing; one with a value that is no number is told and taken up to it; and so are points that the table
+  // does not take, and values that a .STR file cannot hold.
   void mnuImportTorve_Click();  // rating in the output of the spillway program
   void mnuOpen_Click();         // structure-table file
   void mnuSave_Click();
@@ -55,6 +57,8 @@ class frmStructureTable : public InputScreen {
   void showStart();                                       // the options that the analysis leaves
   std::vector<StructureRow> rows() const;                 // all data rows
   void takeRows(const std::vector<StructureRow>& taken);  // blanks the table and fills it from row 1 on
+  // The same with what was read of a file, telling what was not. False: nothing was, and nothing is changed.
+  bool takeFile(const std::string& path, const StructureFile& file);
 
   TableEditor editor_;
 };

@@ -11,6 +11,7 @@
 #include "screens/file_choice.h"
 #include "screens/frm_hydrograph_data.h"
 #include "screens/frm_hydrograph_select.h"
+#include "screens/hydrograph_fault.h"
 #include "screens/qt40_file.h"
 #include "screens/thy_file.h"
 #include "screens/vhy_file.h"
@@ -34,6 +35,10 @@ std::vector<std::string> textsOf(const std::vector<HydrographRow>& rows, std::st
   std::vector<std::string> texts;
   for (const HydrographRow& row : rows) texts.push_back(row.*text);
   return texts;
+}
+
+bool holdsFlows(const std::vector<HydrographRow>& rows) {
+  return std::any_of(rows.begin(), rows.end(), [](const HydrographRow& row) { return !trim(row.flow).empty(); });
 }
 
 bool holdsPoints(const std::vector<HydrographRow>& rows) {
@@ -86,6 +91,10 @@ bool HydrographFiles::tellFault(const TextFile& file, const std::string& fault) 
   return !fault.empty();
 }
 
+void HydrographFiles::tellRest(const TextFile& file, std::size_t points, std::size_t taken) {
+  if (points > taken) warn(file.trap, morePointsThanTaken(points, taken));
+}
+
 void HydrographFiles::takeVariable(const std::vector<HydrographRow>& rows) {
   screen_.selectForm(false);
   Table& table = screen_.varTable;
@@ -107,7 +116,7 @@ void HydrographFiles::importClocked(const Menu& command, ClockedReader read) {
   if (!file) return;
   const auto hydrograph = read(file->text, pointsOf(screen_.varTable));
   if (!hydrograph) return warn("File Import Error", "Invalid tab-delimited Rivex File");
-  if (hydrograph->rows.empty() && hydrograph->fault.empty()) return warn(file->trap, kNoHydrograph);
+  if (!holdsFlows(hydrograph->rows) && hydrograph->fault.empty()) return warn(file->trap, kNoHydrograph);
   takeVariable(hydrograph->rows);
   if (tellFault(*file, hydrograph->fault)) return;
   for (const int column : {kHydrographTime, kHydrographFlow}) screen_.varTable.setRightAligned(column, true);
@@ -115,17 +124,20 @@ void HydrographFiles::importClocked(const Menu& command, ClockedReader read) {
   screen_.setIncrement("");
   screen_.txtTitle.setText(hydrograph->title);
   screen_.txtTitle.takeFocus();
+  tellRest(*file, hydrograph->points, hydrograph->rows.size());
 }
 
 void HydrographFiles::importTab() {
   const auto file = chooseText(mnuImportTab, kTextFilter);
   if (!file) return;
   std::string fault;
-  const std::vector<HydrographRow> rows = readTabRows(file->text, kMostHydrographPoints, &fault);
+  std::size_t points = 0;
+  const std::vector<HydrographRow> rows = readTabRows(file->text, kMostHydrographPoints, &fault, &points);
   takeVariable(rows);
   if (tellFault(*file, fault)) return;
   if (!holdsPoints(rows)) warn(file->trap, kNoHydrograph);
   screen_.setIncrement("");
+  tellRest(*file, points, rows.size());
 }
 
 std::optional<std::string> HydrographFiles::chooseEntry(std::vector<std::string> entries) {
@@ -145,9 +157,9 @@ void HydrographFiles::importQt40() {
   std::vector<std::string> headers = qt40Headers(file->text);
   if (headers.empty()) return warn(file->trap, kNoHydrograph);
   if (!chooseEntry(std::move(headers))) return;
-  const int hydrographSelected = context_.screens.hydrographSelect->List1.index();
+  screen_.hydrographSelected = std::max(context_.screens.hydrographSelect->List1.index(), 0);
   const Qt40Hydrograph hydrograph =
-      readQt40(file->text, static_cast<std::size_t>(std::max(hydrographSelected, 0)), kMostHydrographPoints);
+      readQt40(file->text, static_cast<std::size_t>(screen_.hydrographSelected), kMostHydrographPoints);
   if (hydrograph.flows.empty() && hydrograph.fault.empty()) return warn(file->trap, kNoPoints);
   screen_.txtTitle.setText(hydrograph.title);
   screen_.txtStartTime.setText(hydrograph.startTime);
@@ -155,6 +167,7 @@ void HydrographFiles::importQt40() {
   screen_.setHeadings();
   takeConstant(hydrograph.flows, !hydrograph.fault.empty());
   tellFault(*file, hydrograph.fault);
+  tellRest(*file, hydrograph.points, hydrograph.flows.size());
 }
 
 void HydrographFiles::importTorve() {
@@ -178,7 +191,7 @@ void HydrographFiles::importTorve() {
 
 void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
   const VhyHydrograph hydrograph = readVhy(file.text, code, kVhyColumn, kMostHydrographPoints);
-  if (hydrograph.rows.empty()) {
+  if (!holdsFlows(hydrograph.rows)) {
     if (!tellFault(file, hydrograph.fault)) warn(file.trap, kNoPoints);
     return;
   }
@@ -191,6 +204,7 @@ void HydrographFiles::importVhy(const TextFile& file, const std::string& code) {
     screen_.txtTitle.setText("");
   }
   takeConstant(textsOf(hydrograph.rows, &HydrographRow::flow), ended);
+  tellRest(file, hydrograph.points, hydrograph.rows.size());
   if (!tellFault(file, hydrograph.fault)) context_.base.host.show(screen_);
 }
 
@@ -205,6 +219,7 @@ bool HydrographFiles::takeThy(const TextFile& file) {
   screen_.setIncrement(hydrograph->increment);
   takeConstant(hydrograph->flows, !hydrograph->fault.empty());
   if (hydrograph->flows.empty() && hydrograph->fault.empty()) warn(file.trap, kNoPoints);
+  tellRest(file, hydrograph->points, std::min<std::size_t>(hydrograph->points, kMostHydrographPoints));
   return !tellFault(file, hydrograph->fault);
 }
 
@@ -226,8 +241,10 @@ void HydrographFiles::write(const std::string& path, std::string_view text) {
   if (!written) warn("Export File Error", written.failure().path + ": " + written.failure().reason);
 }
 
-// Only a hydrograph at constant steps has this form; the user is asked for a name all the same.
 void HydrographFiles::exportThy() {
+  if (!screen_.optConst.selected()) {
+    return warn("Export File Error", "Only a hydrograph with a constant time increment can be exported in this form.");
+  }
   Ports& ports = context_.base.ports;
   auto path = chooseFile(ports, {FileDialog::Kind::save, "Save File", kThyFilter, 2, {}, false});
   if (!path) return;
@@ -238,7 +255,7 @@ void HydrographFiles::exportThy() {
                      BoxIcon::warning);
     path = joinPath(directory, "torve.THY");
   }
-  if (screen_.optConst.selected()) SaveTable(*path);
+  SaveTable(*path);
 }
 
 void HydrographFiles::exportTab() {

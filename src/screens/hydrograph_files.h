@@ -17,6 +17,7 @@ class frmHydrographData;
 // hydrograph is told in a box and changes nothing (a .VHY file without a known record: no box; two columns of text
 // without a row: the table is emptied). A value that is none ends an import with a box: the form is switched and the
 // rows before the value stay; what an import does behind its rows is left out.
+// Points that the table does not take are told.
 class HydrographFiles {
  public:
   HydrographFiles(frmHydrographData& screen, InputContext& context);
@@ -57,7 +58,8 @@ class HydrographFiles {
   void takeVariable(const std::vector<HydrographRow>& rows);
   // Takes discharges at the steps of txtConst; an import that has ended at a fault leaves them without times.
   void takeConstant(const std::vector<std::string>& flows, bool ended);
-  bool tellFault(const TextFile& file, const std::string& fault);  // false: there is none
+  bool tellFault(const TextFile& file, const std::string& fault);              // false: there is none
+  void tellRest(const TextFile& file, std::size_t points, std::size_t taken);  // nothing where all were taken
   void warn(const std::string& title, const std::string& text);
 
   frmHydrographData& screen_;

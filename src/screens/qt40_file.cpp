@@ -32,11 +32,14 @@ bool nextHeader(LineReader& lines, std::string_view& line) {
 // Adds the discharges of a row, up to one that is no number, which it tells as a fault.
 void takeRow(const LineReader& lines, std::string_view line, double baseFlow, std::size_t mostFlows,
              Qt40Hydrograph& hydrograph) {
-  for (int column = 21; column <= 61 && hydrograph.flows.size() < mostFlows; column += kFieldWidth) {
+  for (int column = 21; column <= 61; column += kFieldWidth) {
     const std::string_view field = trim(columns(line, column, kFieldWidth));
     if (field.empty()) continue;
+    ++hydrograph.points;
+    if (hydrograph.flows.size() >= mostFlows) continue;
     const std::optional<double> value = realNumber(field);
     if (!value) {
+      --hydrograph.points;
       hydrograph.fault = fieldFault(lines.lineNumber(), field, "discharge");
       return;
     }
@@ -74,8 +77,7 @@ Qt40Hydrograph readQt40(std::string_view text, std::size_t index, std::size_t mo
   const std::string baseFlow = charCount(line) > 70 ? trimmed(line, 71, kFieldWidth) : std::string();
   const std::size_t header = lines.lineNumber();
   if (!isNumberOrBlank(baseFlow)) hydrograph.fault = fieldFault(header, baseFlow, "base flow");
-  while (hydrograph.fault.empty() && hydrograph.flows.size() < mostFlows && lines.next(line) &&
-         trim(columns(line, 1, 20)).empty()) {
+  while (hydrograph.fault.empty() && lines.next(line) && trim(columns(line, 1, 20)).empty()) {
     takeRow(lines, line, lenientNumber(baseFlow), mostFlows, hydrograph);
   }
   dropIfNoNumber(hydrograph.startTime, header, "start time", hydrograph.fault);

@@ -17,6 +17,7 @@ struct Qt40Hydrograph {
   std::string increment;           // 51-60, hours
   std::vector<std::string> flows;  // cfs, the base flow of columns 71-80 added to each
   std::string fault;               // as of fieldFault; empty: none
+  std::size_t points = 0;          // those behind the flows included
 };
 
 // Hydrograph `index`, from 0, of qt40Headers. Its rows have blanks in columns 1 to 20 and up to five discharges at 21,

@@ -1,10 +1,12 @@
 #include "screens/structure_files.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/fields.h"
 #include "base/lines.h"
 #include "base/text.h"
+#include "screens/hydrograph_fault.h"
 
 namespace kestra {
 namespace {
@@ -22,6 +24,7 @@ struct StructureField {
 };
 constexpr StructureField kFields[] = {{0, 21, 10}, {3, 31, 10}, {1, 41, 20}, {2, 61, std::string_view::npos}};
 constexpr int kWidthRead = 10;
+constexpr const char* kValues[] = {"elevation", "discharge", "storage", "surface area"};  // of a row
 
 struct RatingField {
   std::size_t longerThan;  // characters that the line has to exceed
@@ -38,6 +41,27 @@ StructureRow structureRow(std::string_view line) {
   StructureRow row;
   for (const StructureField& field : kFields) row[field.value] = trimmed(line, field.column, kWidthRead);
   return row;
+}
+
+bool isBlank(const StructureRow& row) {
+  return std::all_of(row.begin(), row.end(), [](const std::string& text) { return trim(text).empty(); });
+}
+
+std::string faultIn(const StructureRow& row, std::size_t line) {
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    if (!isNumberOrBlank(row[i])) return fieldFault(line, row[i], kValues[i]);
+  }
+  return {};
+}
+
+StructureRow tabRow(std::string_view line) {
+  StructureRow row;
+  for (std::string& cell : row) cell = nextTabField(line);
+  return row;
+}
+
+bool isHeading(const StructureRow& row) {
+  return !isBlank(row) && std::none_of(row.begin(), row.end(), isMeantAsNumber);
 }
 
 StructureRow ratingRow(std::string_view line) {
@@ -77,9 +101,19 @@ std::optional<StructureFile> readStructureFile(std::string_view text) {
   if (!lines.next(line) || trim(columns(line, 1, 10)) != "STRUCTURE") return std::nullopt;
   StructureFile file;
   if (charCount(line) >= 11) file.identifier = trimmed(line, 11, 5);
-  while (file.rows.size() < kRowsRead && lines.next(line) && trim(columns(line, 1, 10)) != "ENDTABLE") {
-    file.rows.push_back(structureRow(line));
+  while (lines.next(line)) {
+    file.ended = trim(columns(line, 1, 10)) == "ENDTABLE";
+    if (file.ended) break;
+    StructureRow row = structureRow(line);
+    if (file.rows.size() == kRowsRead) {
+      file.points += isBlank(row) ? 0U : 1U;
+      continue;
+    }
+    file.fault = faultIn(row, lines.lineNumber());
+    if (!file.fault.empty()) break;
+    file.rows.push_back(std::move(row));
   }
+  file.points += file.rows.size();
   return file;
 }
 
@@ -91,6 +125,18 @@ std::string structureFileText(std::string_view identifier, const std::vector<Str
     if (!rows[i][0].empty()) text.append(structureLine(rows[i])).append(kCrLf);
   }
   return text.append("ENDTABLE").append(kCrLf);
+}
+
+std::string valuesTooLong(const std::vector<StructureRow>& rows) {
+  std::string places;
+  for (std::size_t i = 0; i < rows.size() && i < kRowsWritten; ++i) {
+    if (rows[i][0].empty()) continue;
+    for (std::size_t value = 0; value < rows[i].size(); ++value) {
+      if (charCount(rows[i][value]) <= static_cast<std::size_t>(kWidthRead)) continue;
+      places.append(places.empty() ? "" : ", ").append(kValues[value]).append(" in row ").append(std::to_string(i + 1));
+    }
+  }
+  return places;
 }
 
 std::optional<std::vector<StructureRow>> readTorveRating(std::string_view text) {
@@ -105,15 +151,27 @@ std::optional<std::vector<StructureRow>> readTorveRating(std::string_view text) 
   return rows;
 }
 
-std::vector<StructureRow> readStructureTabs(std::string_view text, std::size_t mostRows) {
+std::vector<StructureRow> readStructureTabs(std::string_view text, std::size_t mostRows, std::string* fault,
+                                            std::size_t* points) {
   std::vector<StructureRow> rows;
+  std::size_t more = 0;
   LineReader lines(text);
   std::string_view line;
-  while (rows.size() < mostRows && lines.next(line)) {
-    StructureRow row;
-    for (std::string& cell : row) cell = nextTabField(line);
+  while (lines.next(line)) {
+    StructureRow row = tabRow(line);
+    if (rows.size() >= mostRows) {
+      more += isBlank(row) ? 0U : 1U;
+      continue;
+    }
+    if (lines.lineNumber() == 1 && isHeading(row)) continue;
+    std::string wrong = faultIn(row, lines.lineNumber());
+    if (!wrong.empty()) {
+      if (fault != nullptr) *fault = std::move(wrong);
+      break;
+    }
     rows.push_back(std::move(row));
   }
+  if (points != nullptr) *points = rows.size() + more;
   return rows;
 }
 

@@ -90,6 +90,13 @@ bool atNumberOne(LineReader& lines, std::string_view& line) {
   return false;
 }
 
+std::size_t linesLeft(LineReader& lines) {
+  std::size_t count = 0;
+  std::string_view line;
+  while (lines.next(line)) count += isBlank(line) ? 0U : 1U;
+  return count;
+}
+
 std::string faultIn(const ClockedFlow& point, long long endOfDay, std::size_t line) {
   if (!point.clock || *point.clock > endOfDay) return fieldFault(line, point.stamp, "clock time");
   return isNumberOrBlank(point.flow) ? "" : fieldFault(line, point.flow, "discharge");
@@ -98,12 +105,6 @@ std::string faultIn(const ClockedFlow& point, long long endOfDay, std::size_t li
 std::string faultIn(const HydrographRow& row, std::size_t line) {
   if (!isNumberOrBlank(row.time)) return fieldFault(line, row.time, "time");
   return isNumberOrBlank(row.flow) ? "" : fieldFault(line, row.flow, "discharge");
-}
-
-// Whether a field was meant as a number, be it one with a decimal comma or a unit.
-bool isMeantAsNumber(std::string_view field) {
-  const std::size_t first = field.find_first_not_of("+-., ");
-  return first != std::string_view::npos && field[first] >= '0' && field[first] <= '9';
 }
 
 bool isHeading(const HydrographRow& row) {
@@ -128,6 +129,7 @@ std::optional<TabHydrograph> readClocked(std::string_view text, std::size_t most
     before = *point.clock;
     hydrograph.rows.push_back({decimalNumber(static_cast<double>(minutes) / 60), std::move(point.flow)});
   } while (hydrograph.rows.size() < mostRows && lines.next(line));
+  hydrograph.points = hydrograph.rows.size() + (hydrograph.fault.empty() ? linesLeft(lines) : 0);
   return hydrograph;
 }
 
@@ -141,7 +143,8 @@ std::optional<TabHydrograph> readRivex(std::string_view text, std::size_t mostRo
   return readClocked(text, mostRows, {atNumberOne, readRivexLine, rivexMinutes, kHhmmADay});
 }
 
-std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows, std::string* fault) {
+std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows, std::string* fault,
+                                       std::size_t* points) {
   std::vector<HydrographRow> rows;
   LineReader lines(text);
   std::string_view line;
@@ -153,10 +156,12 @@ std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRo
     std::string wrong = faultIn(row, lines.lineNumber());
     if (!wrong.empty()) {
       if (fault != nullptr) *fault = std::move(wrong);
-      break;
+      if (points != nullptr) *points = rows.size();
+      return rows;
     }
     rows.push_back(std::move(row));
   }
+  if (points != nullptr) *points = rows.size() + linesLeft(lines);
   return rows;
 }
 

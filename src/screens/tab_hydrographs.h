@@ -21,7 +21,8 @@ struct HydrographRow {
 struct TabHydrograph {
   std::string title;  // 40 characters at most
   std::vector<HydrographRow> rows;
-  std::string fault;  // as of fieldFault; empty: none
+  std::string fault;       // as of fieldFault; empty: none
+  std::size_t points = 0;  // those behind the rows included, unless there is a fault
 };
 
 // The first field of the first line is the title. The data begin behind the first line of ten hyphens. Fields of a
@@ -37,8 +38,9 @@ std::optional<TabHydrograph> readRivex(std::string_view text, std::size_t mostRo
 
 // Time and discharge, a line a row; missing fields are empty. A first line of two texts that are no numbers, nor meant
 // as such, is a heading and passed over. Reading stops at the first field that is neither empty nor a number; `fault`,
-// where given, then tells of it as fieldFault does.
-std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows, std::string* fault = nullptr);
+// where given, then tells of it as fieldFault does. `points`, where given, counts the lines behind the rows too.
+std::vector<HydrographRow> readTabRows(std::string_view text, std::size_t mostRows, std::string* fault = nullptr,
+                                       std::size_t* points = nullptr);
 
 // The same as a text; rows in which both are empty are left out.
 std::string tabRowsText(const std::vector<HydrographRow>& rows);

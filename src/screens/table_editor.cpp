@@ -63,7 +63,7 @@ void TableEditor::character(char32_t character) {
 }
 
 void TableEditor::backspace() {
-  if (!table_.currentText().empty()) tempStr = table_.currentText();
+  tempStr = table_.currentText();
   if (tempStr.empty()) return;
   tempStr = charsFrom(tempStr, 0, charCount(tempStr) - 1);
   table_.setCurrentText(tempStr);

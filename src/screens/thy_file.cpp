@@ -36,16 +36,19 @@ void put(std::string& line, int column, std::string_view text, int width) {
 
 // A line stands for five rows of the table, whether it reaches their fields or not. False, and a fault told, at a field
 // that is no discharge.
-bool takeFlows(std::string_view line, std::size_t number, ThyHydrograph& hydrograph) {
+bool takeFlows(std::string_view line, std::size_t number, std::size_t& row, ThyHydrograph& hydrograph) {
   int column = kFirstFlow;
-  for (std::size_t i = 0; i < kFlowsALine && hydrograph.flows.size() < kMostFlows; ++i) {
+  for (std::size_t i = 0; i < kFlowsALine; ++i, column += kFieldWidth) {
     std::string flow = trimmed(line, column, kFieldWidth);
+    if (++row > kMostFlows) {
+      if (!flow.empty()) hydrograph.points = row;
+      continue;
+    }
     if (!isNumberOrBlank(flow)) {
       hydrograph.fault = fieldFault(number, flow, "discharge");
       return false;
     }
     hydrograph.flows.push_back(std::move(flow));
-    column += kFieldWidth;
   }
   return true;
 }
@@ -77,11 +80,13 @@ std::optional<ThyHydrograph> readThy(std::string_view text) {
   }
   if (lines.next(line)) hydrograph.increment = trimmed(line, kFirstFlow, kFieldWidth);
   const std::size_t incrementLine = lines.lineNumber();
-  while (hydrograph.flows.size() < kMostFlows && lines.next(line) && trim(columns(line, 1, 10)) != "ENDTABLE") {
-    if (!takeFlows(line, lines.lineNumber(), hydrograph)) break;
+  std::size_t row = 0;
+  while (lines.next(line) && trim(columns(line, 1, 10)) != "ENDTABLE") {
+    if (!takeFlows(line, lines.lineNumber(), row, hydrograph)) break;
   }
   checkIncrement(incrementLine, hydrograph);
   dropEmptyEnd(hydrograph.flows);
+  hydrograph.points = std::max(hydrograph.points, hydrograph.flows.size());
   return hydrograph;
 }
 

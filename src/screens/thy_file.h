@@ -16,7 +16,8 @@ struct ConstantHydrograph {
 
 // One that was read from a file, up to the first value that is none.
 struct ThyHydrograph : ConstantHydrograph {
-  std::string fault;  // as of fieldFault; empty: none
+  std::string fault;       // as of fieldFault; empty: none
+  std::size_t points = 0;  // rows up to the last with a discharge, those behind the flows included
 };
 
 // A hydrograph file (.THY). Line 1: "HYD" at column 1, title of 40 characters from 31 on. Line 2: increment at 21. Then

@@ -117,6 +117,10 @@ VhyHydrograph readVhy(std::string_view text, std::string_view code, int column, 
     hydrograph.rows.push_back({decimalNumber(time - start, kDigits), flowOf(line, column)});
   }
   hydrograph.fault = noStep;
+  hydrograph.points = hydrograph.rows.size();
+  while (hydrograph.points >= mostRows && lines.next(line) && !endsRows(line)) {
+    hydrograph.points += trim(line).empty() ? 0U : 1U;
+  }
   return hydrograph;
 }
 

@@ -22,6 +22,7 @@ struct VhyHydrograph {
   std::string increment;            // hours, between the first two times; empty with fewer
   std::vector<HydrographRow> rows;  // times count from the start time
   std::string fault;                // as of fieldFault; empty: none
+  std::size_t points = 0;           // those behind the rows included, unless a fault has ended them
 };
 
 // The record of a code. Behind its first line stands one with the start time in columns 12 to 22; then the rows, up to

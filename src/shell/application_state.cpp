@@ -18,6 +18,7 @@ void ApplicationState::forgetInput() {
   totalInstances = design.totalInstances;
   lhsSeed = design.lhsSeed;
   bRandomSample = design.bRandomSample;
+  bRandomPairing = design.bRandomPairing;
 }
 
 }  // namespace kestra

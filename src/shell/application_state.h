@@ -35,7 +35,8 @@ struct ApplicationState {
 
   std::string totalInstances = "1";  // instances of a sampled run, a text that holds a number
   std::string lhsSeed = "1";
-  bool bRandomSample = false;  // random rather than Latin hypercube samples
+  bool bRandomSample = false;   // random rather than Latin hypercube samples
+  bool bRandomPairing = false;  // samples of different variables are paired at random
 
   std::array<bool, kLastSlot + 1> windowOpen{};  // by slot, 1 to 6
 

@@ -1,5 +1,7 @@
 #include "shell/frm_kestra.h"
 
+#include "screens/dam_picture.h"
+
 namespace kestra {
 namespace {
 
@@ -9,24 +11,41 @@ constexpr int kSlot = static_cast<int>(WindowSlot::input);
 
 frmKestra::frmKestra(ScreenContext& context, frmTopScreen& top)
     : Screen("frmKestra", "Kestra B - Input Interface"), context_(context), top_(top) {
-  for (Menu* command : {&mnuNew, &mnuOpen, &mnuSaveAs, &mnuImport, &mnuBuildFile, &mnuRebuildAll, &mnuSpecifySum}) {
-    command->setEnabled(false);
-  }
+  for (Menu* command : projectMenus()) command->setEnabled(false);
+  mnuSaveAs.setEnabled(false);
   for (Menu& entry : mnuWindowsArray) entry.setVisible(false);
   mnuContents.onClick = [this] { context_.ports.help.showTopic(""); };
   cmdNext.onClick = [this] {
     context_.host.hide(*this);
     if (Screen* first = context_.host.find("frmProjectInformation")) context_.host.show(*first);
   };
-  mnuExit.onClick = [this] {
-    if (onExit) onExit();
-  };
+  for (const auto& [command, name] : screenMenus()) {
+    command->onClick = [this, name = name] {
+      if (Screen* screen = context_.host.find(name)) context_.host.show(*screen);
+    };
+  }
+  mnuCascade.onClick = [this] { arrange(WindowArrangement::cascade); };
+  mnuTile.onClick = [this] { arrange(WindowArrangement::tile); };
+}
+
+std::vector<Menu*> frmKestra::projectMenus() {
+  return {&mnuNew,        &mnuOpen,      &mnuImport,     &mnuBuildFile, &mnuRebuildAll,
+          &mnuConvertAll, &mnuCheckFile, &mnuErrorTable, &mnuSpecifySum};
+}
+
+std::vector<std::pair<Menu*, const char*>> frmKestra::screenMenus() {
+  return {{&mnuSummaryTable, "frmSummaryTable"},
+          {&mnuSpecifySum, "frmSummaryFields"},
+          {&mnuColors, "frmUpdateColors"},
+          {&mnuSpecifyLines, "frmUpdateLines"}};
+}
+
+void frmKestra::arrange(WindowArrangement arrangement) {
+  if (context_.host.onArrange) context_.host.onArrange(arrangement);
 }
 
 void frmKestra::takeProject() {
-  for (Menu* command : {&mnuNew, &mnuOpen, &mnuImport, &mnuBuildFile, &mnuRebuildAll, &mnuSpecifySum}) {
-    command->setEnabled(true);
-  }
+  for (Menu* command : projectMenus()) command->setEnabled(true);
   mnuSaveAs.setEnabled(false);
   setTitle("Kestra B - Input Interface");
 }
@@ -41,6 +60,8 @@ void frmKestra::load() {
   context_.state.fileIsNew = false;
   context_.state.inputScreens = top_.windows().sequenceNames();
   top_.windows().AddData(kSlot);
+  drawDamPicture(Picture1);
+  for (const auto& [command, name] : screenMenus()) command->setVisible(context_.host.find(name) != nullptr);
 }
 
 void frmKestra::activate() {

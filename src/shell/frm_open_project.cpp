@@ -5,8 +5,7 @@ namespace kestra {
 frmOpenProject::frmOpenProject(ScreenContext& context, Projects& projects)
     : ProjectPicker(context, "frmOpenProject", "Open Project") {
   cmdOK.onClick = [this, &projects] {
-    const Opening opening = projects.open(directory(), "This is not a valid QUIL project directory!");
-    if (opening == Opening::opened) done();
+    if (projects.open(directory()) == Opening::opened) done();
   };
 }
 

@@ -5,7 +5,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/files.h"
-#include "summary/summary_fields.h"
+#include "summary/summary_file.h"
 
 namespace kestra {
 namespace {

@@ -25,6 +25,12 @@ Result<std::unique_ptr<OutputFile>> ProjectGuard::createNew(const std::string& p
   return inner_.createNew(path);
 }
 
+Result<std::unique_ptr<OutputFile>> ProjectGuard::append(const std::string& path) {
+  const Status allowed = check(path);
+  if (!allowed) return allowed.failure();
+  return inner_.append(path);
+}
+
 Status ProjectGuard::rename(const std::string& from, const std::string& to) {
   for (const std::string& path : {from, to}) {
     if (Status allowed = check(path); !allowed) return allowed;

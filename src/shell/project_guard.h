@@ -14,10 +14,14 @@ class ProjectGuard : public FileSystem {
   Result<FileStatus> status(const std::string& path) override { return inner_.status(path); }
   Result<FileStatus> linkStatus(const std::string& path) override { return inner_.linkStatus(path); }
   Result<std::string> read(const std::string& path, std::uint64_t limit) override { return inner_.read(path, limit); }
+  Result<std::string> readStart(const std::string& path, std::uint64_t most) override {
+    return inner_.readStart(path, most);
+  }
   Result<std::vector<DirectoryEntry>> list(const std::string& path) override { return inner_.list(path); }
   Result<std::string> canonical(const std::string& path) override { return inner_.canonical(path); }
   Status makeDirectory(const std::string& path) override;
   Result<std::unique_ptr<OutputFile>> createNew(const std::string& path) override;
+  Result<std::unique_ptr<OutputFile>> append(const std::string& path) override;
   Status rename(const std::string& from, const std::string& to) override;
   Status syncDirectory(const std::string& path) override { return inner_.syncDirectory(path); }
   Status removeFile(const std::string& path) override;

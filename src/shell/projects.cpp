@@ -10,7 +10,6 @@ namespace kestra {
 namespace {
 
 constexpr const char* kOpenTitle = "Open Project";
-constexpr const char* kNoProject = "This is not a valid QUIL project directory!";
 constexpr const char* kNoRecentProject = "This is not a valid Kestra B project directory!";
 constexpr const char* kCannotEnter = "Unable to open project directory!";
 
@@ -20,6 +19,10 @@ constexpr std::array<const char*, 23> kUnloadOrder = {
     "frmHydrographData", "frmMaterialGraph",      "frmOutput",       "frmOutputGraph",    "frmProjectInformation",
     "frmPSConduit",      "frmPSRatingTable",      "frmPSType",       "frmStructureTable", "frmSummaryGraphics",
     "frmSummaryTable",   "frmUpdateColors",       "Properties"};
+
+constexpr std::array<const char*, 10> kInputScreens = {
+    "frmAuxRatingTable", "frmAuxSpillwayProfile", "frmAuxSpillways", "frmDamSurface",     "frmHydrographData",
+    "frmPSConduit",      "frmPSRatingTable",      "frmPSType",       "frmStructureTable", "Properties"};
 
 void warn(ScreenContext& context, const std::string& text) {
   context.ports.boxes.tell(kOpenTitle, text, BoxIcon::warning);
@@ -43,6 +46,13 @@ void UnloadAllScreens(InputContext& input) {
   if (UndoHistory* history = context.host.history()) history->clear();
 }
 
+void HideInputScreens(ScreenHost& host) {
+  for (const char* name : kInputScreens) {
+    Screen* screen = host.find(name);
+    if (screen != nullptr && screen->visible()) host.hide(*screen);
+  }
+}
+
 void Projects::enter(const std::string& directory, const std::string& frameTitle) {
   ApplicationState& state = context_.state;
   closeWindows();
@@ -55,6 +65,7 @@ void Projects::enter(const std::string& directory, const std::string& frameTitle
   top_.windows().LoadOrUnload();
   top_.UpdateRecentProjects(directory);
   state.bExiting = false;
+  if (onChanged) onChanged();
 }
 
 Opening Projects::open(const std::string& directory, const std::string& notAProject) {
@@ -82,20 +93,15 @@ void Projects::openRecent(const std::string& directory) {
   if (open(directory, kNoRecentProject) == Opening::refused) top_.RemoveRecentProject(directory);
 }
 
-bool Projects::openFile(const std::string& path) {
-  const std::string directory(directoryOf(path));
-  if (open(directory, kNoProject) != Opening::opened) return false;
-  context_.state.currentFile = path;
-  context_.state.fileHasName = true;
-  input_.takeFile(path);
-  top_.windows().FindFormToBuildItems();
-  return true;
+bool Projects::openFor(const std::string& path) {
+  return open(std::string(directoryOf(path))) == Opening::opened;
 }
 
 void Projects::leave() {
   closeWindows();
   release();
   top_.setTitle("Kestra B");
+  if (onChanged) onChanged();
 }
 
 void Projects::release() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -13,6 +14,10 @@ namespace kestra {
 // empties the stores of the auxiliary spillways. No screen asks anything meanwhile.
 void UnloadAllScreens(InputContext& input);
 
+// Hides the input screens that are on show.
+void HideInputScreens(ScreenHost& host);
+
+inline constexpr const char* kNotAProject = "This is not a valid QUIL project directory!";
 enum class Opening { opened, wasOpen, refused };
 
 // The one open project: entering it, leaving it, and holding it against other programs.
@@ -26,13 +31,14 @@ class Projects {
   void enter(const std::string& directory, const std::string& frameTitle);
   // The same on behalf of a person: a directory that is no project, or the one already open, is answered with a warning
   // under "Open Project". `notAProject` is the text for the first.
-  Opening open(const std::string& directory, const std::string& notAProject);
+  Opening open(const std::string& directory, const std::string& notAProject = kNotAProject);
   void openRecent(const std::string& directory);  // a failing one is taken off the recent list
-  // Opens the project in which a control file stands and takes the file as the open one; false, after a warning, when
-  // its directory is no project.
-  bool openFile(const std::string& path);
+  // Opens the project in which a control file stands; false, after a warning, when its directory is no project.
+  bool openFor(const std::string& path);
   void leave();    // closes the project's windows: no project is open
   void release();  // lets other programs have it
+
+  std::function<void()> onChanged;  // another project is open now, or none
 
   bool isOpen(const std::string& directory) const;    // whatever links lead there
   bool isWithin(const std::string& directory) const;  // the open project is that directory, or lies in it

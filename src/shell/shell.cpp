@@ -22,12 +22,18 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     : topScreen(context, applicationDirectory),
       inputWindow(context, topScreen),
       input(context, inputWindow),
+      controlFiles(input, context),
       projects(input.context, topScreen, inputWindow),
       newProject(context, projects),
       openProject(context, projects),
       deleteProject(context, projects, topScreen, applicationDirectory),
+      output(input.projectInformation),
+      progress(context),
+      fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress},
+      commands(fileDesk, projects, applicationDirectory),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
+      graphs(context, lines),
       context_(context),
       applicationDirectory_(applicationDirectory) {
   ScreenHost& host = context_.host;
@@ -48,8 +54,8 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     };
   }
   topScreen.onEnd = [this] { end(); };
-  inputWindow.onExit = [this] { projects.leave(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
+  topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
     topScreen.windows().shown(screen);
     topScreen.windows().FindFormToBuildItems();
@@ -59,6 +65,9 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     host.enter(*screen);
   }
   input.enterAll(host);
+  host.enter(output);
+  host.enter(progress);
+  graphs.enterAll(host);
   for (Screen* screen : input.sequence()) topScreen.windows().enterSequence(*screen);
   host.setHistory(&history);
 }
@@ -76,7 +85,13 @@ void Shell::startUp(const std::string& commandLine) {
 
 void Shell::openCommandLine(std::string path) {
   if (path.front() == '"') path = path.substr(1, path.size() - 2);
-  if (!projects.openFile(absolutePath(path, context_.ports.files.currentDirectory()))) ended_ = true;
+  path = absolutePath(path, context_.ports.files.currentDirectory());
+  if (!projects.openFor(path)) {
+    ended_ = true;
+    return;
+  }
+  commands.file.take(path);
+  showInputWindow(fileDesk);
 }
 
 void Shell::end() {

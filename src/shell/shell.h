@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "control/control_files.h"
 #include "controls/undo_history.h"
 #include "graphics/line_settings.h"
+#include "graphs/graph_screens.h"
 #include "screens/input_screen_set.h"
 #include "screens/screen_context.h"
 #include "screens/text_screen.h"
@@ -11,6 +13,7 @@
 #include "shell/frm_top_screen.h"
 #include "shell/project_screens.h"
 #include "shell/projects.h"
+#include "shell/window_commands.h"
 #include "summary/summary_fields.h"
 
 namespace kestra {
@@ -23,16 +26,22 @@ class Shell {
   frmTopScreen topScreen;
   frmKestra inputWindow;
   InputScreenSet input;
+  ControlFiles controlFiles;
   UndoHistory history;  // of the input screens
   Projects projects;
   frmNewProject newProject;
   frmOpenProject openProject;
   frmDeleteProject deleteProject;
+  frmOutput output;
+  frmProgress progress;
+  FileDesk fileDesk;
+  WindowCommands commands;  // of the input window
   TextScreen about;
   TextScreen disclaimer;
 
   FieldCatalogues catalogues;
   LineSettings lines;
+  GraphScreens graphs;
 
   // Starts the application, `commandLine` being what stands behind the program's name: nothing, or the path of a
   // control file, in double quotes or not; a single character is ignored. A file whose directory is no project ends the

@@ -1,6 +1,5 @@
 #include "summary/summary_fields.h"
 
-#include "base/fields.h"
 #include "base/quoted_list.h"
 #include "platform/files.h"
 
@@ -31,17 +30,6 @@ void FieldCatalogues::LoadFieldCatalogues(FileSystem& files, const std::string& 
 
 SummarySelection defaultSummarySelection() {
   return {{{{1, 9, 11, 12, 17, 18, 19, 36, 37, 38, 39, 40}, {1, 2, 3, 4, 5, 6}}}};
-}
-
-std::string summaryFileText(const SummarySelection& selection, const std::vector<std::string>& entryNames) {
-  std::string text;
-  const auto number = [&text](std::size_t value) { text.append(std::to_string(value)).append(kCrLf); };
-  for (const auto& fields : selection.selectedFields) {
-    number(fields.size());
-    for (const int field : fields) number(static_cast<std::size_t>(field));
-  }
-  for (const auto& name : entryNames) text += quotedLine(name);
-  return text;
 }
 
 }  // namespace kestra

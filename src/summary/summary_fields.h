@@ -28,10 +28,4 @@ struct SummarySelection {
 // The selection that a new project starts with.
 SummarySelection defaultSummarySelection();
 
-// Content of a summary file: per level the count of selected fields and their numbers, an item a line, then the names
-// of the entries in double quotes.
-std::string summaryFileText(const SummarySelection& selection, const std::vector<std::string>& entryNames);
-
-inline constexpr const char* kSummaryFileName = "SUMMARY.IDE";
-
 }  // namespace kestra

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "automation/driver_desk.h"
+#include "support/fake_pictures.h"
 
 namespace kestra {
 namespace {
@@ -131,15 +132,19 @@ TEST_F(CanvasVerbs, refuseAMouseThatThereIsNot) {
 
 TEST_F(CanvasVerbs, tellTheDrawingCallsUnrounded) {
   CanvasControl& canvas = desk.gallery.canvas;
-  canvas.record({"FontBold", {true}});
-  canvas.clear();
+  canvas.FontBold(true);
+  canvas.Cls();
   EXPECT_EQ(onCanvas("canvas", ""), "{'ok':true,'value':[]}");
-  canvas.setScale({0, 10, 0.1 + 0.2, -1e-300});
-  canvas.record({"Print", {1.0, 2.0, std::string("a \"b\"\n")}});
-  canvas.record({"Visible", {false}});
+  canvas.Scale(0, 10, 0.1 + 0.2, -1e-300);
+  canvas.moveTo(1, 2);
+  canvas.Print("a \"b\"\n");
+  canvas.Circle(1, 2, 0.0006, 255);
+  canvas.FontSize(8.25);
+  canvas.Visible(false);
   EXPECT_EQ(onCanvas("canvas", ""),
             "{'ok':true,'value':[['Scale',0.0,10.0,0.30000000000000004,-1e-300],['Print',1.0,2.0,'a \\'b\\'\\n'],"
-            "['Visible',false]]}");
+            "['Circle',1.0,2.0,0.0006,255],['FontSize',8.25],['Visible',false]]}");
+  EXPECT_FALSE(canvas.visible());
   EXPECT_EQ(tell("canvas", ""), "{'ok':false,'error':'gallery.table is no canvas'}");
 }
 
@@ -149,25 +154,28 @@ TEST_F(CanvasVerbs, makeNoPictureWithoutARenderer) {
   EXPECT_EQ(tell("image", ",'file':'a.png'"), "{'ok':false,'error':'table is no canvas'}");
 }
 
-struct FakeRenderer : CanvasRenderer {
-  Status render(const CanvasControl& canvas, const std::string& file, int width, int height) override {
-    log += canvas.name() + " " + file + " " + std::to_string(width) + "x" + std::to_string(height) + ";";
-    if (file == "full.png") return Failure{FailureKind::full, file, "No space left on device"};
-    return Done();
-  }
-  std::string log;
-};
-
 TEST_F(CanvasVerbs, renderAPictureOfTheSizeThatIsAskedFor) {
-  FakeRenderer renderer;
-  Driver driver(desk.app, desk.conversation, &renderer);
-  const auto image = [&driver](const std::string& fields) {
-    return driver.answerTo(R"({"do":"image","screen":"gallery","control":"canvas")" + fields + "}");
-  };
-  EXPECT_EQ(image(R"(,"file":"a.svg","width":20,"height":10)"), R"({"ok":true,"value":null})");
-  EXPECT_EQ(image(R"(,"file":"full.png")"), R"({"ok":false,"error":"full.png: No space left on device"})");
-  EXPECT_EQ(image(""), R"({"ok":false,"error":"field \"file\" is missing"})");
-  EXPECT_EQ(renderer.log, "canvas a.svg 20x10;canvas full.png 800x600;");
+  FakePictures pictures;
+  desk.app.shell.graphs.context.pictures = &pictures;
+  desk.gallery.canvas.Print("here");
+  EXPECT_EQ(onCanvas("image", ",'file':'a.svg','width':20,'height':10"), kDone);
+  EXPECT_EQ(desk.memory.content("/home/a.svg"), "form 1, 20x10, 1: here");
+  EXPECT_EQ(onCanvas("image", ",'file':'a.PNG'"), kDone);
+  EXPECT_EQ(desk.memory.content("/home/a.PNG"), "form 0, 800x600, 1: here");
+  EXPECT_EQ(onCanvas("image", ""), "{'ok':false,'error':'field \\'file\\' is missing'}");
+  EXPECT_EQ(onCanvas("image", ",'file':'a.gif'"),
+            "{'ok':false,'error':'a.gif: the name of a picture ends in .png, .svg, .pdf or .bmp'}");
+  pictures.fails = true;
+  EXPECT_EQ(onCanvas("image", ",'file':'a.png'"), "{'ok':false,'error':'a.png: no colours left'}");
+}
+
+TEST_F(CanvasVerbs, leaveAnOldPictureWhereTheNewOneCannotBeWritten) {
+  FakePictures pictures;
+  desk.app.shell.graphs.context.pictures = &pictures;
+  desk.memory.put("/home/a.png", "old");
+  desk.files.failEvery("write", FailureKind::full);
+  EXPECT_EQ(onCanvas("image", ",'file':'a.png'"), "{'ok':false,'error':'a.png: made to fail'}");
+  EXPECT_EQ(desk.memory.content("/home/a.png"), "old");
 }
 
 }  // namespace

@@ -37,6 +37,25 @@ TEST(LenientNumber, takesNumbersOfAnyLength) {
   EXPECT_EQ(lenientNumber(std::string(400, '0') + "1"), 1.0);
 }
 
+TEST(LenientNumber, isTheNearestOneHoweverItsDigitsStandInAField) {
+  const std::pair<const char*, double> cases[] = {{"     0.1  ", 0.1},
+                                                  {"  -123.456", -123.456},
+                                                  {"999999999999999", 999999999999999.0},
+                                                  {".000000000000001", 1e-15},
+                                                  {"0.30000000000000004", 0.1 + 0.2},
+                                                  {"123456789012345678", 123456789012345678.0},
+                                                  {"1016.25   ", 1016.25},
+                                                  {"-0", -0.0},
+                                                  {"007", 7}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(lenientNumber(text), value) << text;
+}
+
+TEST(SingleNumber, isTheShortestThatStandsForTheNumber) {
+  const std::pair<float, const char*> cases[] = {
+      {0.1F, "0.1"}, {-2.5F, "-2.5"}, {16777216, "16777216"}, {1e20F, "1e+20"}, {0, "0"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(singleNumber(value), text);
+}
+
 TEST(WholeNumber, takesTheWholeTextOrNothing) {
   EXPECT_EQ(wholeNumber(" 12 "), 12);
   EXPECT_EQ(wholeNumber("-3"), -3);

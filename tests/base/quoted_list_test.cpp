@@ -30,7 +30,16 @@ TEST(QuotedListReader, keepsCommasAndLineEndsInsideQuotes) {
 }
 
 TEST(QuotedLine, isReadBackAsItStands) {
-  EXPECT_EQ(valuesOf(quotedLine("x, y")), (Values{"x, y"}));
+  for (const char* value : {"x, y", "", "a\"b", "\"", "\"\"", "\"all\"", "a\r\nb", " blanks "}) {
+    EXPECT_EQ(valuesOf(quotedLine(value) + quotedLine("next")), (Values{value, "next"}));
+  }
+}
+
+TEST(QuotedListReader, tellsWhetherAValueStoodInQuotes) {
+  QuotedListReader reader("1,\"2\",3");
+  std::string quoted;
+  while (reader.next()) quoted += reader.quoted() ? 'q' : '-';
+  EXPECT_EQ(quoted, "-q-");
 }
 
 }  // namespace

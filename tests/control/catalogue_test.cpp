@@ -24,6 +24,23 @@ TEST(Catalogue, holdsEveryRecordInTheOrderOfTheFile) {
   EXPECT_EQ(ids, expected);
 }
 
+TEST(Catalogue, holdsEveryRecordOfASpillwayInTheOrderOfItsRun) {
+  std::vector<std::string_view> ids;
+  for (const RecordLayout& record : recordsOf(RunKind::spillway)) ids.push_back(record.id);
+  const std::vector<std::string_view> expected = {
+      "QUIL",  "HYD",      "POOLDATA", "ASSPRFL", "ASSURFACE", "ASDATA", "BTMWIDTH", "ASMATERIAL", "ASCOORD",
+      "ORLEN", "GRAPHICS", "GO,HYD",   "KESTRA",  "MODIFIED",  "LHS",    "ENDJOB",   "ENDTABLE",   "ENDRUN"};
+  EXPECT_EQ(ids, expected);
+}
+
+std::vector<const RecordLayout*> everyRecord() {
+  std::vector<const RecordLayout*> all;
+  for (const RunKind run : {RunKind::main, RunKind::spillway}) {
+    for (const RecordLayout& record : recordsOf(run)) all.push_back(&record);
+  }
+  return all;
+}
+
 TEST(Catalogue, keepsTheLayoutsOfAKeywordTogether) {
   std::set<std::string_view> seen;
   std::string_view last;
@@ -54,19 +71,19 @@ void expectFieldsInOrder(const RecordLayout& record, std::span<const FieldLayout
 }
 
 TEST(Catalogue, letsNoTwoFieldsOverlap) {
-  for (const RecordLayout& record : recordsOf(RunKind::main)) {
-    expectFieldsInOrder(record, record.fields, 11);
-    if (record.table) expectFieldsInOrder(record, record.table->fields, 11);
+  for (const RecordLayout* record : everyRecord()) {
+    expectFieldsInOrder(*record, record->fields, 11);
+    if (record->table) expectFieldsInOrder(*record, record->table->fields, 11);
   }
 }
 
 TEST(Catalogue, namesEachFieldOfARecordOnce) {
-  for (const RecordLayout& record : recordsOf(RunKind::main)) {
+  for (const RecordLayout* record : everyRecord()) {
     std::set<std::string_view> names;
-    for (const FieldLayout& field : record.fields) {
+    for (const FieldLayout& field : record->fields) {
       if (field.literal && field.literal->empty()) continue;
-      EXPECT_TRUE(names.insert(field.name).second) << record.id << ", " << field.name;
-      EXPECT_EQ(findField(record.fields, field.name), &field);
+      EXPECT_TRUE(names.insert(field.name).second) << record->id << ", " << field.name;
+      EXPECT_EQ(findField(record->fields, field.name), &field);
     }
   }
 }
@@ -116,6 +133,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Catalogue, findsNothingUnderAWrongName) {
   EXPECT_EQ(findRecord("DWNSTREAM"), nullptr);
   EXPECT_EQ(findRecord(""), nullptr);
+  EXPECT_EQ(findRecord("QUIL"), nullptr);
+  EXPECT_NE(findRecord("QUIL", RunKind::spillway), nullptr);
   EXPECT_EQ(findField(findRecord("KESTRA")->fields, "colour"), nullptr);
 }
 

@@ -14,8 +14,6 @@ namespace kestra {
 namespace {
 
 constexpr const char* kPage = KESTRA_SOURCE_DIR "/docs/formats/control-file.md";
-constexpr std::string_view kBegin = "<!-- records: begin -->\n\n";
-constexpr std::string_view kEnd = "<!-- records: end -->";
 
 std::string readFile(const char* path) {
   std::ifstream file(path, std::ios::binary);
@@ -35,22 +33,33 @@ std::string shown(const std::string& text) {
   return result;
 }
 
-TEST(ControlFilePage, showsTheCatalogueAsItIs) {
+struct PagePart {
+  const char* name;
+  RunKind run;
+};
+
+class ControlFilePage : public testing::TestWithParam<PagePart> {};
+
+TEST_P(ControlFilePage, showsTheCatalogueAsItIs) {
+  const std::string wanted = describeCatalogue(GetParam().run);
   std::string page = readPage();
-  const std::size_t begin = page.find(kBegin);
-  const std::size_t end = page.find(kEnd);
-  ASSERT_NE(begin, std::string::npos);
-  ASSERT_NE(end, std::string::npos);
-  const std::size_t from = begin + kBegin.size();
-  ASSERT_LE(from, end);
+  const std::string begin = "<!-- " + std::string(GetParam().name) + ": begin -->\n\n";
+  const std::string end = "<!-- " + std::string(GetParam().name) + ": end -->";
+  const std::size_t from = page.find(begin) + begin.size();
+  ASSERT_NE(page.find(begin), std::string::npos);
+  ASSERT_NE(page.find(end, from), std::string::npos);
   if (std::getenv("KESTRA_REWRITE_PAGES") != nullptr) {
-    page.replace(from, end - from, describeCatalogue());
+    page.replace(from, page.find(end, from) - from, wanted);
     std::ofstream(kPage, std::ios::binary) << page;
   }
-  EXPECT_EQ(readPage().substr(from, readPage().find(kEnd) - from), describeCatalogue());
+  EXPECT_EQ(readPage().substr(from, readPage().find(end) - from), wanted);
 }
 
-TEST(ControlFilePage, showsTheExampleAsItStandsInItsFile) {
+INSTANTIATE_TEST_SUITE_P(Parts, ControlFilePage,
+                         testing::Values(PagePart{"records", RunKind::main},
+                                         PagePart{"spillway records", RunKind::spillway}));
+
+TEST(ControlFilePageExample, standsAsInItsFile) {
   const std::string example = shown(readFile(KESTRA_SOURCE_DIR "/examples/stock-pond.KSC"));
   ASSERT_FALSE(example.empty());
   EXPECT_NE(readPage().find("```\n" + example + "```\n"), std::string::npos);

@@ -44,9 +44,9 @@ std::string synonymsOf(std::string_view keyword) {
   return text;
 }
 
-std::string describe(const RecordLayout& record) {
+std::string describe(RunKind run, const RecordLayout& record) {
   std::string text = fmt::format("### `{}`: {}\n\nWritten: {}.{}\n", record.keyword, record.title, record.presence,
-                                 synonymsOf(record.keyword));
+                                 run == RunKind::main ? synonymsOf(record.keyword) : std::string());
   if (record.fields.empty()) {
     text += "The keyword stands alone, without blanks behind it.\n";
   } else {
@@ -58,9 +58,9 @@ std::string describe(const RecordLayout& record) {
 
 }  // namespace
 
-std::string describeCatalogue() {
+std::string describeCatalogue(RunKind run) {
   std::string text;
-  for (const RecordLayout& record : recordsOf(RunKind::main)) text += fmt::format("{}\n", describe(record));
+  for (const RecordLayout& record : recordsOf(run)) text += fmt::format("{}\n", describe(run, record));
   return text;
 }
 

@@ -194,17 +194,33 @@ INSTANTIATE_TEST_SUITE_P(
                         {"4 OUTPUT"}}));
 
 TEST(ReadControlRecords, splitsTheFileAtEndRun) {
-  const std::string text = "KESTRA\r\nENDRUN\r\nQUIL\r\nPOOLDATA\r\n ENDRUN \r\nHYD\r\n";
+  const std::string text = "KESTRA\r\nENDRUN\r\nQUIL\r\nSAVMOV\r\n ENDRUN \r\nHYD\r\n";
   const std::vector<ControlRun> runs = readControlRecords(text);
   ASSERT_EQ(runs.size(), 3U);
   EXPECT_EQ(runs[0].text, "KESTRA\r\nENDRUN\r\n");
-  EXPECT_EQ(runs[1].text, "QUIL\r\nPOOLDATA\r\n ENDRUN \r\n");
+  EXPECT_EQ(runs[1].text, "QUIL\r\nSAVMOV\r\n ENDRUN \r\n");
   EXPECT_EQ(runs[1].kind, RunKind::spillway);
-  EXPECT_EQ(runs[1].unknown.size(), 2U);
-  ASSERT_EQ(runs[1].records.size(), 1U);
-  EXPECT_EQ(runs[1].records[0].layout->id, "ENDRUN");
+  EXPECT_EQ(runs[1].unknown.size(), 1U);
+  ASSERT_EQ(runs[1].records.size(), 2U);
+  EXPECT_EQ(runs[1].records[0].layout, findRecord("QUIL", RunKind::spillway));
+  EXPECT_EQ(runs[1].records[1].layout->id, "ENDRUN");
   EXPECT_EQ(runs[2].text, "HYD\r\n");
   EXPECT_FALSE(runs[2].ended);
+}
+
+TEST(ReadControlRecords, takesTheFirstRunForWhatItIsSaidToBe) {
+  const std::vector<ControlRun> runs = readControlRecords("KESTRA    1         dam.KSC\r\n", RunKind::spillway);
+  ASSERT_EQ(runs.size(), 1U);
+  ASSERT_EQ(runs[0].records.size(), 1U);
+  EXPECT_EQ(runs[0].records[0].fields.named("file").text(), "dam.KSC");
+}
+
+TEST(EachRecord, handsOverTheRecordsOfTheFirstRunOnly) {
+  std::vector<std::string> seen;
+  eachRecord("KESTRA\nFOREIGN\nTAILWATER\n a\nENDRUN\nKESTRA\n", RunKind::main, [&](const ControlRecord& record) {
+    seen.push_back(std::string(record.keyword) + ":" + std::string(record.rows));
+  });
+  EXPECT_EQ(seen, (std::vector<std::string>{"KESTRA:", "TAILWATER: a\n", "ENDRUN:"}));
 }
 
 TEST(ReadControlRecords, findsNoRunInATextOfEmptyLines) {

@@ -130,11 +130,19 @@ class Flow(unittest.TestCase):
     maxDiff = None
 
     def setUp(self):
-        self.base = os.path.realpath(tempfile.mkdtemp(prefix="kestra-flow-"))
+        self.base = self._new_directory()
         os.chmod(self.base, 0o755)
         self.addCleanup(self._remove)
         self.settings = self.at("config/kestra-b/settings.ini")
         self.program = KESTRA
+
+    def _new_directory(self):
+        """Without an underscore, which no path of a saved file may hold."""
+        while True:
+            path = os.path.realpath(tempfile.mkdtemp(prefix="kestra-flow-"))
+            if "_" not in os.path.basename(path):
+                return path
+            os.rmdir(path)
 
     def _remove(self):
         for place, directories, _ in os.walk(self.base):

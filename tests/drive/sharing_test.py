@@ -34,6 +34,7 @@ class Sharing(Flow):
         self.assertEqual(second.end(), ("", "", 0))
 
     def test_the_second_is_told_on_standard_error_when_it_starts_with_a_file(self):
+        write(self.at("dam/a.KSC"), b"KESTRA\r\nENDRUN\r\n")
         second = self.drive(os.path.join(self.dam, "a.KSC"))
         self.assertTrue(self.read_only(second))
         self.assertEqual(second.end(), ("", f"Open Project: {self.told['text']}\n", 0))

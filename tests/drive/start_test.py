@@ -10,15 +10,18 @@ NO_PROJECT = "Open Project: This is not a valid QUIL project directory!\n"
 
 class Start(Flow):
     def starts_with(self, word, control_file, **how):
+        write(control_file, b"KESTRA    01/01/2009Pond\r\nENDRUN\r\n")
         drive = self.drive(word, **how)
         directory = os.path.dirname(control_file)
-        self.assertEqual(drive.value("state"), {
+        state = drive.value("state")
+        titles = state.pop("titles")
+        self.assertEqual((titles["frmTopScreen"], titles["frmKestra"]),
+                         (f"Kestra B [Project  {directory}]", f"Kestra B ( {control_file} )"))
+        self.assertEqual(state, {
             "projectDir": directory, "currentFile": control_file, "fileDirty": False, "fileIsNew": False,
             "fileHasName": True, "bExiting": False, "windowOpen": [True] + [False] * 5, "numAuxSpillways": 0,
             "curAuxSpillway": 0, "totalInstances": "1", "lhsSeed": "1", "bRandomSample": False,
-            "recentProjects": [directory], "visible": ["frmKestra", "frmTopScreen"],
-            "titles": {"frmTopScreen": f"Kestra B [Project  {directory}]", "frmKestra": f"Kestra B ( {control_file} )"},
-            "focus": None})
+            "recentProjects": [directory], "visible": ["frmKestra", "frmTopScreen"], "focus": None})
         self.assertTrue(drive.value("get", screen="frmKestra", control="mnuSaveAs")["enabled"])
         self.assertEqual(drive.end(), ("", "", 0))
 
@@ -40,6 +43,21 @@ class Start(Flow):
         self.starts_with(self.at("dam/a.KSC"), self.at("dam/a.KSC"))
         self.starts_with("a.KSC", self.at("dam/a.KSC"), cwd=dam)
         self.starts_with("dam/../dam//./a.KSC", self.at("dam/a.KSC"))
+
+    def test_takes_the_file_into_the_screens(self):
+        self.make_project("dam")
+        write(self.at("dam/a.KSC"), b"KESTRA    01/01/2009Pond\r\nENDRUN\r\n")
+        drive = self.drive("dam/a.KSC")
+        self.assertEqual(drive.value("get", screen="frmProjectInformation", control="txtWatershedID")["value"], "Pond")
+        self.assertEqual(drive.value("variable", name="controlText"), "KESTRA    01/01/2009Pond\r\nENDRUN\r\n")
+
+    def test_tells_that_the_file_is_not_there_and_opens_its_project(self):
+        self.make_project("dam")
+        drive = self.drive("dam/a.KSC")
+        self.assertEqual(drive.state("currentFile"), self.at("dam/a.KSC"))
+        out, err, code = drive.end()
+        self.assertEqual((out, code, err.count("\n")), ("", 0, 1), err)
+        self.assertIn(self.at("dam/a.KSC"), err)
 
     def test_takes_a_control_file_in_quotes(self):
         self.make_project("two words")

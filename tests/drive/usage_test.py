@@ -22,7 +22,7 @@ class Usage(Flow):
         self.assertIn(GENERAL, out)
         self.assertEqual((err, code), ("", 0))
         self.assertEqual(self.run_kestra("--help"), (out, "", 0))
-        for command in ("new", "drive", "help"):
+        for command in ("new", "build", "check", "drive", "help"):
             out, err, code = self.run_kestra("help", command)
             self.assertIn(f"Usage: kestra {command} ", out)
             self.assertEqual((err, code), ("", 0))

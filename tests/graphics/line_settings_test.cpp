@@ -63,5 +63,75 @@ TEST_F(LineSettingsTest, passOverSettingsThatAreNoNumbersOfTheirRange) {
   EXPECT_EQ(lines.WidthList[1], 2);
 }
 
+TEST_F(LineSettingsTest, keepAChangedItemAtOnceAndThatOneAlone) {
+  init();
+  EXPECT_TRUE(lines.setColor(settings, 3, 77));
+  EXPECT_TRUE(lines.setStyle(settings, 13, 4));
+  EXPECT_TRUE(lines.setWidth(settings, 1, 3));
+  EXPECT_EQ(settings.get("ColorList", "3", ""), "77");
+  EXPECT_EQ(settings.get("ColorList", "4", ""), "");
+  EXPECT_EQ(settings.get("ComboList", "13", ""), "4");
+  EXPECT_EQ(settings.get("WidthList", "1", ""), "3");
+  EXPECT_EQ(lines.customColors[3], 77U);
+  LineSettings again;
+  again.InitColors(settings, entropy);
+  again.InitLines(settings);
+  EXPECT_EQ(again.ColorList[3], 77U);
+  EXPECT_EQ(again.ComboList[13], 4);
+  EXPECT_EQ(again.WidthList[1], 3);
+  EXPECT_NE(again.ColorList[30], lines.ColorList[30]);
+}
+
+TEST_F(LineSettingsTest, haveNoItemsOutsideTheirLists) {
+  init();
+  const LineSettings before = lines;
+  for (const int index : {-1, 110}) EXPECT_TRUE(lines.setColor(settings, index, 7));
+  for (const int index : {0, 14}) EXPECT_TRUE(lines.setStyle(settings, index, 1));
+  for (const int index : {0, 14}) EXPECT_TRUE(lines.setWidth(settings, index, 1));
+  EXPECT_EQ(lines.ColorList, before.ColorList);
+  EXPECT_EQ(lines.ComboList, before.ComboList);
+  EXPECT_EQ(lines.WidthList, before.WidthList);
+  EXPECT_EQ(settings.get("ColorList", "-1", ""), "");
+}
+
+// The dialog of a user who makes the first custom colour white, or changes his mind.
+struct CustomColorsDialog : ScriptedDialogs {
+  bool chooseCustomColors(std::array<std::uint32_t, 16>& custom) override {
+    if (confirms) custom[0] = 0xFFFFFF;
+    return confirms;
+  }
+  bool confirms = true;
+};
+
+TEST_F(LineSettingsTest, takeAllCustomColoursWhenTheDialogIsConfirmed) {
+  init();
+  const std::uint32_t second = lines.ColorList[1];
+  CustomColorsDialog dialog;
+  dialog.confirms = false;
+  EXPECT_FALSE(lines.PickAllColors(dialog));
+  EXPECT_NE(lines.ColorList[0], 0xFFFFFFU);
+  dialog.confirms = true;
+  EXPECT_TRUE(lines.PickAllColors(dialog));
+  EXPECT_EQ(lines.ColorList[0], 0xFFFFFFU);
+  EXPECT_EQ(lines.ColorList[1], second);
+}
+
+TEST_F(LineSettingsTest, leaveCustomColoursToDialogsThatHaveSuch) {
+  init();
+  const auto before = lines.ColorList;
+  ScriptedDialogs dialogs;
+  EXPECT_FALSE(lines.PickAllColors(dialogs));
+  dialogs.colors = {5U};
+  EXPECT_TRUE(lines.PickAllColors(dialogs));
+  EXPECT_EQ(lines.ColorList, before);
+}
+
+TEST_F(LineSettingsTest, giveTheColourThatIsPicked) {
+  ScriptedDialogs dialogs;
+  dialogs.colors = {5U, std::nullopt};
+  EXPECT_EQ(PickColor(dialogs, 1), 5U);
+  EXPECT_EQ(PickColor(dialogs, 1), std::nullopt);
+}
+
 }  // namespace
 }  // namespace kestra

@@ -96,7 +96,7 @@ INCLUDE_FAULTS = {
         "<windows.h> is a header of the system, which is for native only"),
     "the JSON library in the core": (
         "src/shell/shell.cpp", "#include <nlohmann/json.hpp>",
-        "<nlohmann/json.hpp> is for automation and cli and desktop only"),
+        "<nlohmann/json.hpp> is for automation and cli and control and desktop only"),
     "the command line library in a script's reader": (
         "src/automation/json.cpp", "#include <CLI/CLI.hpp>", "<CLI/CLI.hpp> is for cli only"),
 }
@@ -221,6 +221,13 @@ class Includes(Tree):
         self.write_report("".join(row for row in REPORT.splitlines(True) if not row.startswith("desktop")))
         self.assertEqual(self.includes("--unbuilt", "desktop"), [])
         self.assertIn("src/desktop/window.cpp:1: no module lists this file", self.includes())
+
+    def test_a_header_of_a_folder_that_this_build_leaves_out_may_be_named(self):
+        self.write_report("".join(row for row in REPORT.splitlines(True) if not row.startswith("desktop")))
+        number = self.append("src/shell/shell.cpp", '#include "desktop/window.h"')
+        self.assertEqual(self.includes("--unbuilt", "desktop"), [])
+        self.assertIn(f'src/shell/shell.cpp:{number}: "desktop/window.h" is a header of no module', self.includes())
+        self.put("src/shell/shell.cpp", CLEAN["src/shell/shell.cpp"])
 
 
 class Bans(Tree):

@@ -113,6 +113,13 @@ TEST_F(PosixProcessHostTest, collectsOutputAndErrorInAFileThatItEmptiesFirst) {
   EXPECT_EQ(fileText(directory.at("out")), "to output\nto error\n");
 }
 
+TEST_F(PosixProcessHostTest, putsOutputBehindWhatStandsInTheFileWhereThatIsWanted) {
+  writeText(directory.at("out"), "before\n");
+  EXPECT_EQ(run({KESTRA_PROBE, {"output"}, "", directory.at("out"), true}), "exit 0");
+  EXPECT_EQ(run({KESTRA_PROBE, {"output"}, "", directory.at("out"), true}), "exit 0");
+  EXPECT_EQ(fileText(directory.at("out")), "before\nto output\nto error\nto output\nto error\n");
+}
+
 TEST_F(PosixProcessHostTest, countsARelativeProgramFromWhereThisProgramStands) {
   script("pwd\n");
   ::mkdir(directory.at("below").c_str(), 0777);

@@ -58,5 +58,19 @@ TEST(TerminalDialogs, areCancelledWithALineEach) {
             "cancelled: font dialog\ncancelled: print dialog\ncancelled: save dialog \"Save As\"\n");
 }
 
+TEST(TerminalDialogs, confirmASaveDialogWithThePathThatItOffersWhereTheCallerSaysYes) {
+  using Kind = FileDialog::Kind;
+  std::ostringstream lines;
+  TerminalDialogs dialogs(lines, true);
+  const std::vector<std::string> dam = {"/p/dam.KSC"};
+  EXPECT_EQ(dialogs.chooseFiles({Kind::save, "Save File", "", 1, "/p/dam.KSC", false}), dam);
+  EXPECT_EQ(dialogs.chooseFiles({Kind::save, "Save File", "", 1, "/p/dam.KSC", false}), std::nullopt);
+  EXPECT_EQ(dialogs.chooseFiles({Kind::save, "Save File", "", 1, "dam.KSC", false}), std::nullopt);
+  EXPECT_EQ(dialogs.chooseFiles({Kind::open, "Open", "", 1, "/p/lake.KSC", false}), std::nullopt);
+  EXPECT_EQ(lines.str(),
+            "confirmed: save dialog \"Save File\": /p/dam.KSC\ncancelled: save dialog \"Save File\"\n"
+            "cancelled: save dialog \"Save File\"\ncancelled: open dialog \"Open\"\n");
+}
+
 }  // namespace
 }  // namespace kestra

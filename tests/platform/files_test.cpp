@@ -30,6 +30,16 @@ TEST(WriteWholeFile, syncsTheFileBeforeItTakesItsNameAndTheDirectoryAfter) {
                                                 "sync", "close", "rename", "syncDirectory"));
 }
 
+TEST(WriteWholeFile, syncsNothingWhereTheFileNeedNotOutliveALossOfPower) {
+  MemoryFileSystem memory;
+  memory.put("/d/a", "old");
+  FaultyFileSystem files(memory);
+  EXPECT_TRUE(succeeded(writeWholeFile(files, "/d/a", "new", Durable::no)));
+  EXPECT_EQ(memory.content("/d/a"), "new");
+  EXPECT_THAT(files.calls(),
+              ElementsAre("linkStatus", "status", "canonical", "createNew", "copyMode", "write", "close", "rename"));
+}
+
 TEST(WriteWholeFile, leavesTheOldStateAndNoStrayWhicheverStepFails) {
   for (const bool over : {false, true}) {
     const std::vector<std::string> calls = callsOfWriting(over);

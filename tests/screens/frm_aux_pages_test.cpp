@@ -167,5 +167,11 @@ TEST_F(MaterialPages, leadOnToTheNextSpillwayAfterEverythingWasUndoneAndRedone) 
   EXPECT_EQ(desk.front(), "frmKestra");
 }
 
+TEST_F(MaterialPages, helpAndDoNotPlotYet) {
+  screen.cmdHelp.click();
+  EXPECT_EQ(desk.help.topics, std::vector<std::string>{"html\\AuxiliarySpillway.htm"});
+  EXPECT_FALSE(screen.cmdPlot.hasAction());
+}
+
 }  // namespace
 }  // namespace kestra

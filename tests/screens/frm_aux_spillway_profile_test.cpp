@@ -155,6 +155,46 @@ TEST_F(AuxProfileScreen, takesTwoCharactersInTheRetardanceRow) {
   EXPECT_EQ(screen.grdCond.cell(2, 1), "10.05");
 }
 
+TEST_F(AuxProfileScreen, takesTwoCharactersAfreshWhereTheRetardanceIsGone) {
+  desk.openProfile(desk.spillways.optQUIL(0));
+  screen.grdCond.userFocus();
+  screen.grdCond.userSelect({2, 1}, {2, 1});
+  const std::function<void()> ways[] = {[this] { screen.edit.mnuDelete.click(); }, [this] { screen.mnuUndo.click(); },
+                                        [this] {
+                                          desk.clipboard.setText("10.05");
+                                          screen.edit.mnuPaste.click();
+                                        }};
+  for (const auto& way : ways) {
+    typeInto(screen.grdCond, "57");
+    way();
+    desk.beeper.beeps = 0;
+    typeInto(screen.grdCond, "34");
+    EXPECT_EQ(screen.grdCond.cell(2, 1), "34");
+    EXPECT_EQ(desk.beeper.beeps, 0);
+    typeInto(screen.grdCond, "1");
+    EXPECT_EQ(screen.grdCond.cell(2, 1), "34");
+    EXPECT_EQ(desk.beeper.beeps, 1);
+    screen.edit.mnuDelete.click();
+  }
+}
+
+TEST_F(AuxProfileScreen, checksAgainWhatUndoBringsBack) {
+  desk.openProfile(desk.spillways.optQUIL(0));
+  const std::pair<TextBox&, const char*> checks[] = {
+      {screen.txtBottom, "Data Check: Bottom Width must be greater than or equal to 0."},
+      {screen.txtSide, "Data Check: Side Slope Ratio must be greater than or equal to 0."}};
+  for (const auto& [box, message] : checks) {
+    box.userReplace("-1");
+    box.userLeave();
+    EXPECT_EQ(desk.takeBoxes(), std::vector<std::string>{message});
+    screen.mnuUndo.click();
+    EXPECT_EQ(box.text(), "-1");
+    box.userLeave();
+    EXPECT_EQ(desk.takeBoxes(), std::vector<std::string>{message});
+    EXPECT_EQ(box.text(), "");
+  }
+}
+
 TEST_F(AuxProfileScreen, beepsAtWhatIsNoConditionValue) {
   desk.openProfile(desk.spillways.optQUIL(0));
   typeInto(screen.grdCond, "-a ");
@@ -350,13 +390,6 @@ TEST_F(AuxProfileScreen, editsTheTableOfThePageOnShow) {
   EXPECT_EQ(cutOn(2, nullptr), "77-");
   for (int page : {1, 3, 4, 5}) EXPECT_EQ(cutOn(page, nullptr), "777") << page;
   EXPECT_NE(screen.find("mnuInsertColumn"), nullptr);
-}
-
-TEST_F(AuxProfileScreen, helpsAndDoesNotPlotYet) {
-  desk.openProfile(desk.spillways.optQUIL(0));
-  screen.cmdHelp.click();
-  EXPECT_EQ(desk.help.topics, std::vector<std::string>{"html\\AuxiliarySpillway.htm"});
-  EXPECT_FALSE(screen.cmdPlot.hasAction());
 }
 
 }  // namespace

@@ -73,6 +73,20 @@ TEST_F(HydrographData, leadsPastThePrincipalSpillwayWhenTheStructureTableHasDisc
   EXPECT_EQ(help.topics, Texts{"html\\HydrographDataTable.htm"});
 }
 
+TEST_F(HydrographData, findsDischargesInRowsOneToFiftyThatAreNotBlank) {
+  EXPECT_FALSE(hasStructureDischarge(context));
+  structure.grdTable.setCell(1, 1, "1");
+  structure.grdTable.setCell(1, 3, "1");
+  structure.grdTable.setCell(7, 2, "   ");
+  EXPECT_FALSE(hasStructureDischarge(context));
+  for (const int row : {1, 25, 50}) {
+    structure.grdTable.setCell(row, 2, " 0 ");
+    EXPECT_TRUE(hasStructureDischarge(context)) << row;
+    structure.grdTable.setCell(row, 2, "");
+  }
+  EXPECT_FALSE(hasStructureDischarge(context));
+}
+
 TEST_F(HydrographData, showsWhatBelongsToItsForm) {
   screen.optVariable.userSelect();
   EXPECT_EQ(host.focus(), &screen.txtDesired);
@@ -305,8 +319,9 @@ TEST_F(HydrographData, checksFieldsAgainBehindAnUndo) {
   setIncrement("0.5");
   screen.mnuUndo.click();
   EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+  EXPECT_EQ(screen.txtConst.text(), "1");
   screen.txtConst.userLeave();
-  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "5", "10"}));
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
 }
 
 }  // namespace

@@ -211,15 +211,69 @@ TEST_F(HydrographConversion, takesAConversionBackWithAllThatItChanged) {
 }
 
 TEST_F(HydrographConversion, takesAResamplingBackWithTheIncrementItCameFrom) {
-  put(screen.grdTable, 1, {"0", "10"});
+  put(screen.grdTable, 1, {"0", "10", "4"});
   setIncrement("1");
+  const std::size_t steps = history.steps();
   setIncrement("0.5");
-  screen.mnuUndo.click();
-  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+  EXPECT_EQ(history.steps(), steps + 1);
   screen.mnuUndo.click();
   EXPECT_EQ(screen.txtConst.text(), "1");
+  host.show(screen);
+  EXPECT_EQ(column(screen.grdTable, 1, 4), (Texts{"0", "10", "4", ""}));
+  EXPECT_EQ(column(screen.grdTable, 0, 3), (Texts{"0         ", "1         ", "2         "}));
+  screen.mnuRedo.click();
+  EXPECT_EQ(screen.txtConst.text(), "0.5");
+  host.show(screen);
+  EXPECT_EQ(column(screen.grdTable, 1, 6), (Texts{"0", "5", "10", "7", "4", ""}));
+  EXPECT_EQ(column(screen.grdTable, 0, 2), (Texts{"0         ", "0.5       "}));
+  screen.mnuUndo.click();
   setIncrement("0.25");
   EXPECT_EQ(column(screen.grdTable, 1, 5), (Texts{"0", "2.5", "5", "7.5", "10"}));
+}
+
+TEST_F(HydrographConversion, takesAResamplingBackWithItsIncrementWhateverWasDoneInBetween) {
+  put(screen.grdTable, 1, {"0", "10"});
+  setIncrement("1");
+  screen.txtConst.userReplace("0.5");
+  screen.txtStartTime.userReplace("3");
+  screen.txtConst.userLeave();
+  screen.mnuUndo.click();
+  EXPECT_EQ(screen.txtConst.text(), "1");
+  EXPECT_EQ(screen.txtStartTime.text(), "3");
+  host.show(screen);
+  EXPECT_EQ(column(screen.grdTable, 1, 3), (Texts{"0", "10", ""}));
+  EXPECT_EQ(column(screen.grdTable, 0, 2), (Texts{"0         ", "1         "}));
+}
+
+TEST_F(HydrographConversion, wantsAConstantIncrementAboveZero) {
+  put(screen.grdTable, 1, {"0", "10"});
+  for (const char* text : {"", " ", "0", "-1", "x"}) {
+    screen.txtConst.setText(text);
+    screen.cmdConvert.click();
+    EXPECT_EQ(takeBoxes(), Texts{"Data Check: Constant time increment must greater than 0."}) << text;
+    EXPECT_TRUE(screen.optConst.selected());
+    EXPECT_EQ(screen.txtConst.text(), "");
+    EXPECT_EQ(host.focus(), &screen.txtConst);
+    EXPECT_EQ(lastFilled(screen.varTable), 0);
+  }
+}
+
+TEST_F(HydrographConversion, changesNothingWhereTimesFall) {
+  put(screen.varTable, 0, {"0", "2", "2", "1.5"});
+  put(screen.varTable, 1, {"0", "10", "20", "30"});
+  put(screen.grdTable, 1, {"9"});
+  screen.optVariable.userSelect();
+  screen.txtDesired.userReplace("0.5");
+  screen.cmdConvert.click();
+  screen.convertHydrograph(0.5, 2);
+  const std::string box = "Hydrograph Error: Times must be increasing: 1.5 follows 2.";
+  EXPECT_EQ(takeBoxes(), (Texts{box, box}));
+  EXPECT_TRUE(screen.optVariable.selected());
+  EXPECT_EQ(column(screen.grdTable, 1, 2), (Texts{"9", ""}));
+  screen.varTable.setCell(4, 0, "2");
+  screen.cmdConvert.click();
+  EXPECT_TRUE(takeBoxes().empty());
+  EXPECT_TRUE(screen.optConst.selected());
 }
 
 }  // namespace

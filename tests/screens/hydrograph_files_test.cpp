@@ -281,12 +281,9 @@ TEST_F(HydrographFilesOnScreen, exportNoThyFileOfVariableTime) {
   EXPECT_TRUE(menu.mnuExport.enabled());
   choose("/p/storm.THY");
   menu.mnuExport.click();
-  EXPECT_EQ(files.paths(), Texts{"/p"});
-  EXPECT_TRUE(dialogs.files.empty());
-  EXPECT_TRUE(takeBoxes().empty());
-  choose("");
-  menu.mnuExport.click();
-  EXPECT_EQ(takeBoxes(), Texts{"Save File: No filename was provided, default to /p/hydro.THY"});
+  EXPECT_EQ(takeBoxes(),
+            Texts{"Export File Error: Only a hydrograph with a constant time increment can be exported in this form."});
+  EXPECT_TRUE(dialogs.shownFiles.empty());
   EXPECT_EQ(files.paths(), Texts{"/p"});
 }
 

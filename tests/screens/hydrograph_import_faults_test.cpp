@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "screens/hydrograph_files.h"
 #include "support/hydrograph_desk.h"
 
@@ -236,6 +238,71 @@ TEST_F(HydrographImportFaults, areToldOfFilesThatEndBeforeTheirData) {
     EXPECT_EQ(fields(), (Texts{"1", "7", "old"}));
     EXPECT_EQ(screen.grdTable.cell(1, 1) + screen.varTable.cell(1, 0), "99");
     EXPECT_TRUE(screen.optConst.selected());
+  }
+}
+
+std::string repeated(const std::string& line, int times) {
+  std::string text;
+  for (int i = 0; i < times; ++i) text += line;
+  return text;
+}
+
+// Lines that begin with 0, 1, ..., each with blanks up to `width`.
+std::string numbered(const std::string& before, std::size_t width, const std::string& behind, int times) {
+  std::string text;
+  for (int i = 0; i < times; ++i) {
+    std::string number = std::to_string(i);
+    number.resize(std::max(width, number.size()), ' ');
+    text += before + number + behind;
+  }
+  return text;
+}
+
+TEST_F(HydrographImportFaults, areToldOfPointsThatTheTableDoesNotTake) {
+  struct Case {
+    Menu& command;
+    std::string text;
+    std::string more;  // one point
+    const char* title;
+  };
+  const std::string five = kBlanks + "1         2         3         4         5\n";
+  const std::string basix = repeated("06/01/2001 23:30\t1\n", 5000);
+  const std::string rivex = repeated("1\t01Jan2001, 2350\t-\t10\n", 5000);
+  for (const auto& [command, text, more, title] :
+       {Case{menu.mnuImportBasix, "Storm\n----------\n" + basix, "06/01/2001 23:30\t1\n\n", "Import BASIX"},
+        Case{menu.mnuImportRivex, "Storm\n" + rivex, "1\t01Jan2001, 2350\t-\t10\n\n", "Import RIVEX"},
+        Case{menu.mnuImportTab, numbered("", 0, "\t1\n", 5000), "5000\t1\n\n", "Import Tab-delimited Text"},
+        Case{menu.mnuImportQT40, "INPUT HYDROGRAPH:\nHYD\n" + repeated(five, 1000), kBlanks + "1\n", "Import QT-40"},
+        Case{menu.mnuImportTorve, "HYD\n\n" + repeated(five, 1000), kBlanks + "1\n", "Import TORVE"},
+        Case{menu.mnuImportTorve, "31\n            0\n" + numbered(" ", 11, "1\n", 5000),
+             " 5000       1\n5\nENDTABLE\n", "Import TORVE"}}) {
+    import(command, text);
+    EXPECT_EQ(takeBoxes(), Texts()) << title;
+    import(command, text + more);
+    EXPECT_EQ(takeBoxes(), Texts{std::string(title) +
+                                 " File Error: The file holds 5001 points, of which the first 5000 were taken."});
+    EXPECT_EQ(lastFilled(screen.optConst.selected() ? screen.grdTable : screen.varTable), 5000) << title;
+  }
+}
+
+TEST_F(HydrographImportFaults, areToldOfRowsWithoutAnyDischargeWhichChangeNothing) {
+  struct Case {
+    Menu& command;
+    std::string text;
+    const char* box;
+  };
+  for (const auto& [command, text, box] :
+       {Case{menu.mnuImportBasix, "Storm\n----------\n06/01/2001 23:30\n06/01/2001 23:45\t \n",
+             "Import BASIX File Error: The file holds no hydrograph."},
+        Case{menu.mnuImportRivex, "Storm\n1\t01Jan2001, 2350\n2\t02Jan2001, 0010\t-\n",
+             "Import RIVEX File Error: The file holds no hydrograph."},
+        Case{menu.mnuImportTorve, "31\n            2\n 2\n 2.5\n5\nENDTABLE\n",
+             "Import TORVE File Error: The record holds no points."}}) {
+    import(command, text);
+    EXPECT_EQ(takeBoxes(), Texts{box});
+    EXPECT_EQ(fields(), (Texts{"1", "7", "old"})) << box;
+    EXPECT_EQ(screen.grdTable.cell(1, 1) + screen.varTable.cell(1, 0), "99") << box;
+    EXPECT_TRUE(screen.optConst.selected()) << box;
   }
 }
 

@@ -178,6 +178,28 @@ TEST_F(AlongColumns, movesByPagesAndToTheEndsAndLeavesOtherNamedKeysAlone) {
   EXPECT_EQ(table.corner(), (CellPosition{2, 2}));
 }
 
+TEST_F(AlongColumns, takesNothingBackInACellThatIsEmptyAgain) {
+  typeInto(table, "12");
+  desk.history.undo();
+  typeInto(table, "\b");
+  EXPECT_EQ(table.cell(1, 1), "");
+  typeInto(table, "34");
+  deleteBlock(table);
+  typeInto(table, "\b");
+  EXPECT_EQ(table.cell(1, 1), "");
+  EXPECT_EQ(editor.tempStr, "");
+}
+
+TEST_F(AlongColumns, forgetsWhatWasTypedWhenItsScreenIsUnloaded) {
+  typeInto(table, "12");
+  EXPECT_EQ(editor.tempStr, "12");
+  desk.host.unload(screen);
+  EXPECT_EQ(editor.tempStr, "");
+  desk.host.show(screen);
+  typeInto(table, "\b");
+  EXPECT_EQ(table.cell(1, 1), "");
+}
+
 TEST_F(AlongColumns, undoesATypedCellInOneStep) {
   typeInto(table, "12\r34");
   EXPECT_EQ(desk.history.steps(), 2U);

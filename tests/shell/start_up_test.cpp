@@ -30,7 +30,12 @@ TEST(StartUp, readsTheFieldTitlesAndGivesTheFrameTheFirstColour) {
 
 struct CommandLine : testing::Test {
   ScriptedDesk desk;
-  CommandLine() { desk.memory.put("/home/dam/owner", ""); }
+  CommandLine() {
+    desk.memory.put("/home/dam/owner", "");
+    for (const char* name : {"a.KSC", "two words.KSC"}) {
+      desk.memory.put(std::string("/home/dam/") + name, "KESTRA    01/01/2009Pond\r\nENDRUN\r\n");
+    }
+  }
 };
 
 TEST_F(CommandLine, opensTheFilesDirectoryAsTheProjectAndTheFile) {
@@ -46,6 +51,18 @@ TEST_F(CommandLine, opensTheFilesDirectoryAsTheProjectAndTheFile) {
   EXPECT_TRUE(app.shell.inputWindow.mnuSaveAs.enabled());
   EXPECT_EQ(app.host.shown().front(), &app.shell.inputWindow);
   EXPECT_EQ(app.shell.topScreen.recent().paths(), std::vector<std::string>{"/home/dam"});
+  EXPECT_EQ(app.shell.input.projectInformation.txtWatershedID.text(), "Pond");
+  EXPECT_TRUE(desk.boxes.shown.empty());
+}
+
+TEST_F(CommandLine, namesAFileThatCannotBeTakenInWhichIsToldAndOpenWithEmptyScreens) {
+  Application app(desk.ports(), "/app");
+  app.shell.startUp("/home/dam/none.KSC");
+  EXPECT_FALSE(app.shell.ended());
+  EXPECT_EQ(desk.boxes.shown.size(), 1U);
+  EXPECT_EQ(app.state.currentFile, "/home/dam/none.KSC");
+  EXPECT_EQ(app.shell.inputWindow.title(), "Kestra B ( /home/dam/none.KSC )");
+  EXPECT_EQ(app.shell.input.projectInformation.txtWatershedID.text(), "");
 }
 
 TEST_F(CommandLine, mayStandInQuotesAndMayBeRelative) {

@@ -31,15 +31,5 @@ TEST(FieldCatalogues, takeFortyTitlesAtMostAndNoneFromAMissingFile) {
   EXPECT_TRUE(catalogues.fieldTitles[1].empty());
 }
 
-TEST(SummaryFile, holdsCountsNumbersAndQuotedNames) {
-  EXPECT_EQ(summaryFileText({{{{3, 1}, {}}}}, {"dam", "dam1_0"}), "2\r\n3\r\n1\r\n0\r\n\"dam\"\r\n\"dam1_0\"\r\n");
-}
-
-TEST(SummaryFile, ofANewProjectSelectsTheDefaultFieldsAndNoEntry) {
-  EXPECT_EQ(summaryFileText(defaultSummarySelection(), {}),
-            "12\r\n1\r\n9\r\n11\r\n12\r\n17\r\n18\r\n19\r\n36\r\n37\r\n38\r\n39\r\n40\r\n"
-            "6\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
-}
-
 }  // namespace
 }  // namespace kestra

@@ -66,8 +66,10 @@ Result<std::string> readUpTo(const Descriptor& file, const std::string& path, st
   std::string bytes;
   std::uint64_t used = 0;
   while (used <= limit) {
-    const std::uint64_t room = std::max(used == 0 ? expected + 1 : used, kStep);
-    bytes.resize(std::min(used + room, limit + 1));
+    if (used == bytes.size()) {
+      const std::uint64_t room = std::max(used == 0 ? expected + 1 : used, kStep);
+      bytes.resize(std::min(used + room, limit + 1));
+    }
     const ssize_t count = untilDone([&] { return ::read(file.number(), bytes.data() + used, bytes.size() - used); });
     if (count < 0) return systemFailure(path);
     if (count == 0) break;
@@ -75,6 +77,23 @@ Result<std::string> readUpTo(const Descriptor& file, const std::string& path, st
   }
   bytes.resize(used);
   return bytes;
+}
+
+// A regular file that is open for reading, and its size.
+struct OpenFile {
+  Descriptor file;
+  std::uint64_t size = 0;
+};
+
+Result<OpenFile> openRegular(const std::string& path) {
+  // Without waiting for the other end, should it be a pipe.
+  Result<Descriptor> file = openBy(path, O_RDONLY | O_NONBLOCK);
+  if (!file) return file.failure();
+  struct stat found = {};
+  if (::fstat(file.value().number(), &found) != 0) return systemFailure(path);
+  if (S_ISDIR(found.st_mode)) return failureOf(EISDIR, path);
+  if (!S_ISREG(found.st_mode)) return Failure{FailureKind::wrongType, path, "Not a regular file"};
+  return OpenFile{std::move(file).value(), static_cast<std::uint64_t>(found.st_size)};
 }
 
 Type entryType(int directory, const dirent& entry) {
@@ -129,17 +148,21 @@ Result<FileStatus> PosixFileSystem::linkStatus(const std::string& path) {
 }
 
 Result<std::string> PosixFileSystem::read(const std::string& path, std::uint64_t limit) {
-  // Without waiting for the other end, should it be a pipe.
-  const Result<Descriptor> file = openBy(path, O_RDONLY | O_NONBLOCK);
-  if (!file) return file.failure();
-  struct stat found = {};
-  if (::fstat(file.value().number(), &found) != 0) return systemFailure(path);
-  if (S_ISDIR(found.st_mode)) return failureOf(EISDIR, path);
-  if (!S_ISREG(found.st_mode)) return Failure{FailureKind::wrongType, path, "Not a regular file"};
-  const auto size = static_cast<std::uint64_t>(found.st_size);
-  if (size > limit) return failureOf(EFBIG, path);
-  Result<std::string> bytes = readUpTo(file.value(), path, size, limit);
+  const Result<OpenFile> open = openRegular(path);
+  if (!open) return open.failure();
+  if (open.value().size > limit) return failureOf(EFBIG, path);
+  Result<std::string> bytes = readUpTo(open.value().file, path, open.value().size, limit);
   if (bytes && bytes.value().size() > limit) return failureOf(EFBIG, path);
+  return bytes;
+}
+
+Result<std::string> PosixFileSystem::readStart(const std::string& path, std::uint64_t most) {
+  const Result<OpenFile> open = openRegular(path);
+  if (!open) return open.failure();
+  Result<std::string> read = readUpTo(open.value().file, path, std::min(open.value().size, most), most);
+  if (!read) return read;
+  std::string bytes = std::move(read).value();
+  bytes.resize(std::min<std::uint64_t>(bytes.size(), most));
   return bytes;
 }
 
@@ -178,6 +201,16 @@ Status PosixFileSystem::makeDirectory(const std::string& path) {
 Result<std::unique_ptr<OutputFile>> PosixFileSystem::createNew(const std::string& path) {
   Result<Descriptor> file = openBy(path, O_WRONLY | O_CREAT | O_EXCL);
   if (!file) return file.failure();
+  return std::unique_ptr<OutputFile>(std::make_unique<PosixOutputFile>(std::move(file).value(), path));
+}
+
+Result<std::unique_ptr<OutputFile>> PosixFileSystem::append(const std::string& path) {
+  // Without waiting for the other end, should it be a pipe.
+  Result<Descriptor> file = openBy(path, O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK);
+  if (!file) return file.failure();
+  struct stat found = {};
+  if (::fstat(file.value().number(), &found) != 0) return systemFailure(path);
+  if (!S_ISREG(found.st_mode)) return Failure{FailureKind::wrongType, path, "Not a regular file"};
   return std::unique_ptr<OutputFile>(std::make_unique<PosixOutputFile>(std::move(file).value(), path));
 }
 

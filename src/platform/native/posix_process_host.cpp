@@ -67,7 +67,8 @@ ProcessOutcome PosixProcessHost::run(const ProcessRequest& request, const std::f
   const std::string outputFile = request.outputFile.empty() ? "/dev/null" : request.outputFile;
   const Descriptor input = aboveStandard(openFile("/dev/null", O_RDONLY));
   if (!input) return StartFailed{wordsOfError(errno)};
-  const Descriptor output = aboveStandard(openFile(outputFile, O_WRONLY | O_CREAT | O_TRUNC));
+  const Descriptor output =
+      aboveStandard(openFile(outputFile, O_WRONLY | O_CREAT | (request.appendsOutput ? O_APPEND : O_TRUNC)));
   if (!output) return StartFailed{wordsOfError(errno)};
 
   std::vector<std::string> arguments = {request.program};

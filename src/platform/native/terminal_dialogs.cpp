@@ -1,5 +1,7 @@
 #include "platform/native/terminal_dialogs.h"
 
+#include "base/paths.h"
+
 namespace kestra {
 
 void TerminalDialogs::tell(std::string_view kind, std::string_view title) {
@@ -9,6 +11,12 @@ void TerminalDialogs::tell(std::string_view kind, std::string_view title) {
 }
 
 std::optional<std::vector<std::string>> TerminalDialogs::chooseFiles(const FileDialog& dialog) {
+  const std::string& offered = dialog.defaultName;
+  if (yes_ && dialog.kind == FileDialog::Kind::save && isAbsolutePath(offered) && offered != confirmed_) {
+    confirmed_ = offered;
+    lines_ << "confirmed: save dialog \"" << dialog.title << "\": " << offered << '\n' << std::flush;
+    return std::vector<std::string>{offered};
+  }
   tell(dialog.kind == FileDialog::Kind::open ? "open" : "save", dialog.title);
   return std::nullopt;
 }

@@ -1,16 +1,19 @@
 #pragma once
 
 #include <ostream>
+#include <string>
 #include <string_view>
 
 #include "platform/dialogs.h"
 
 namespace kestra {
 
-// Cancels every dialog, after a line that says which one was asked for: cancelled: open dialog "TITLE".
+// Cancels every dialog, after a line that says which one was asked for: cancelled: open dialog "TITLE". With `yes` a
+// save dialog that offers a whole path is confirmed with it: confirmed: save dialog "TITLE": PATH. Asked for the same
+// path again it is cancelled, since the path was not good.
 class TerminalDialogs : public Dialogs {
  public:
-  explicit TerminalDialogs(std::ostream& lines) : lines_(lines) {}
+  explicit TerminalDialogs(std::ostream& lines, bool yes = false) : lines_(lines), yes_(yes) {}
 
   std::optional<std::vector<std::string>> chooseFiles(const FileDialog& dialog) override;
   std::optional<std::string> chooseDirectory(const std::string& title, const std::string& start) override;
@@ -22,6 +25,8 @@ class TerminalDialogs : public Dialogs {
   void tell(std::string_view kind, std::string_view title);
 
   std::ostream& lines_;
+  bool yes_;
+  std::string confirmed_;  // the path confirmed last
 };
 
 }  // namespace kestra

@@ -1,51 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include "support/contracts/file_system_scene.h"
 
-#include "base/paths.h"
-#include "platform/files.h"
-#include "support/result_matchers.h"
-
-// What every FileSystem does. A Scene offers `files`, `root` (an empty directory, its path free of links) and
-// link(path, target).
 namespace kestra {
 
-template <class Scene>
-class FileSystemContract : public testing::Test {
- protected:
-  using Type = FileStatus::Type;
-
-  std::string at(const std::string& name) const { return scene.root + "/" + name; }
-
-  void put(const std::string& name, std::string_view bytes) {
-    auto file = scene.files.createNew(at(name));
-    ASSERT_TRUE(succeeded(file));
-    const auto output = std::move(file).value();
-    ASSERT_TRUE(succeeded(output->write(bytes)));
-    ASSERT_TRUE(succeeded(output->sync()));
-    ASSERT_TRUE(succeeded(output->close()));
-  }
-  void putDirectory(const std::string& name) { ASSERT_TRUE(succeeded(scene.files.makeDirectory(at(name)))); }
-  void putLink(const std::string& name, const std::string& target) { scene.link(at(name), target); }
-
-  std::string contentOf(const std::string& name) {
-    const auto bytes = scene.files.read(at(name), kReadLimit);
-    return bytes ? bytes.value() : "(" + bytes.failure().reason + ")";
-  }
-  // Name and type letter of every entry: "a:f b:d c:l".
-  std::string listing(const std::string& name) {
-    const auto entries = scene.files.list(at(name));
-    if (!entries) return "(" + entries.failure().reason + ")";
-    std::string text;
-    for (const DirectoryEntry& entry : entries.value()) {
-      if (!text.empty()) text += ' ';
-      (text += entry.name) += std::string(":") + "fdlo"[static_cast<int>(entry.type)];
-    }
-    return text;
-  }
-
-  Scene scene;
-};
 TYPED_TEST_SUITE_P(FileSystemContract);
 
 TYPED_TEST_P(FileSystemContract, readsBackAnyBytes) {
@@ -151,12 +109,38 @@ TYPED_TEST_P(FileSystemContract, createsOnlyWhatIsNew) {
   EXPECT_EQ(this->listing(""), "a:f astray:l d:d");
 }
 
+TYPED_TEST_P(FileSystemContract, appendsToWhatStandsThereOrBegins) {
+  this->put("old", "12");
+  this->putDirectory("d");
+  this->putLink("link", "old");
+  FileSystem& files = this->scene.files;
+  for (const char* name : {"old", "link", "fresh", "fresh"}) {
+    EXPECT_TRUE(succeeded(files.append(this->at(name)).value()->write("34"))) << name;
+  }
+  EXPECT_EQ(this->contentOf("old") + " " + this->contentOf("fresh"), "123434 3434");
+  EXPECT_TRUE(failed(files.append(this->at("d")), FailureKind::wrongType, "Is a directory"));
+  EXPECT_TRUE(failed(files.append(this->at("no/below")), FailureKind::notFound, "No such file or directory"));
+}
+
 TYPED_TEST_P(FileSystemContract, readsNoMoreThanTheLimit) {
   this->put("ten", "0123456789");
   FileSystem& files = this->scene.files;
   EXPECT_TRUE(succeeded(files.read(this->at("ten"), 10)));
   EXPECT_TRUE(failed(files.read(this->at("ten"), 9), FailureKind::tooLarge, "File too large"));
   EXPECT_TRUE(failed(files.read(this->at("ten"), 0), FailureKind::tooLarge, "File too large"));
+}
+
+TYPED_TEST_P(FileSystemContract, readsTheStartOfAFile) {
+  this->put("ten", "0123456789");
+  this->putDirectory("d");
+  FileSystem& files = this->scene.files;
+  for (const auto& [most, bytes] : {std::pair(0U, ""), std::pair(4U, "0123"), std::pair(99U, "0123456789")}) {
+    const auto start = files.readStart(this->at("ten"), most);
+    ASSERT_TRUE(succeeded(start));
+    EXPECT_EQ(start.value(), bytes);
+  }
+  EXPECT_TRUE(failed(files.readStart(this->at("d"), 4), FailureKind::wrongType, "Is a directory"));
+  EXPECT_TRUE(failed(files.readStart(this->at("no"), 4), FailureKind::notFound, "No such file or directory"));
 }
 
 TYPED_TEST_P(FileSystemContract, tellsTypeSizeAndWhetherAFileMayBeWritten) {
@@ -375,10 +359,10 @@ TYPED_TEST_P(FileSystemContract, makesTheDirectoriesThatAreMissing) {
 REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, readsBackAnyBytes, takesAnyNameThatTheSystemAllows,
                             worksOnPathsBeyond260Characters, tellsWhatIsNotThereFromEveryOtherFailure,
                             refusesWhatIsOfTheWrongType, refusesNamesThatNoFileCanHave, createsOnlyWhatIsNew,
-                            readsNoMoreThanTheLimit, tellsTypeSizeAndWhetherAFileMayBeWritten,
-                            listsSortedByBytesAndDoesNotFollowLinks, resolvesLinksAndDots, renamesOverAFile,
-                            removesFilesEmptyDirectoriesAndLinksThemselves, countsRelativePathsFromTheCurrentDirectory,
-                            givesALockToOneAtATime, hasTheRootAmongItsRoots,
+                            appendsToWhatStandsThereOrBegins, readsNoMoreThanTheLimit, readsTheStartOfAFile,
+                            tellsTypeSizeAndWhetherAFileMayBeWritten, listsSortedByBytesAndDoesNotFollowLinks,
+                            resolvesLinksAndDots, renamesOverAFile, removesFilesEmptyDirectoriesAndLinksThemselves,
+                            countsRelativePathsFromTheCurrentDirectory, givesALockToOneAtATime, hasTheRootAmongItsRoots,
                             writesAWholeFileOverAnOldOneAndKeepsItsPermissions, writesAWholeFileThroughLinks,
                             writesAWholeFileWhereStraysOfAKilledProgramAreLeft,
                             writesNoWholeFileOverADirectoryOrIntoNowhere, removesATreeAndNothingOutsideOfIt,

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "platform/file_system.h"
+
+namespace kestra {
+
+// Deletes what an earlier run of that name has left: the files `stem`.* and the files in the directory `stem`, where
+// `stem` is the run's name in a folder of the project named by what stands before the name's last "_", in the project
+// itself without one. What a user has written stays (isInputOfRuns), and so do the results of another run whose name
+// begins with this one and a dot, such as those of "dam.b.KSC" when "dam" is cleaned. What cannot be deleted is left.
+// Nothing happens for a name that leads out of the project or names none of its files.
+void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName);
+
+// The same for a given stem.
+void deleteFilesOfStem(FileSystem& files, const std::string& stem);
+
+}  // namespace kestra

@@ -1,0 +1,265 @@
+// What the engine says of input that it cannot take as it stands.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "base/lines.h"
+#include "engines/dam_text.h"
+#include "kestrasim/build_routing.h"
+#include "kestrasim/read_dam.h"
+
+namespace kestra {
+namespace {
+
+std::vector<std::string> messagesOf(const std::string& text) {
+  RunMessages messages;
+  const DamModel dam = readDam(readControlRecords(text), messages);
+  (void)buildRun(dam, messages);
+  return messages.lines();
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(DamInput, ofAWholeDamGivesNoMessage) {
+  EXPECT_EQ(messagesOf(DamText().text()), Lines{});
+  EXPECT_EQ(messagesOf(breachText().text()), Lines{});
+}
+
+struct MessageCase {
+  const char* name;
+  DamText dam;
+  Lines messages;
+};
+
+class DamMessages : public testing::TestWithParam<MessageCase> {};
+
+TEST_P(DamMessages, tellWhatWasWrongWhereAndWhatWasDone) {
+  EXPECT_EQ(messagesOf(GetParam().dam.text()), GetParam().messages);
+}
+
+DamText with(std::string_view keyword, Lines lines) {
+  DamText dam;
+  dam.with(keyword, std::move(lines));
+  return dam;
+}
+
+DamText without(std::string_view keyword) {
+  DamText dam;
+  dam.without(keyword);
+  return dam;
+}
+
+DamText surface(Lines behind) {
+  DamText dam;
+  dam.with("ASRATING", {"ASSURFACE 1Earth    3         60       110        900",
+                        "          0         400       5.6       0.7       1         1", "ENDTABLE"});
+  dam.behind(std::move(behind));
+  return dam;
+}
+
+std::vector<MessageCase> messageCases() {
+  return {
+      {"noHydrograph",
+       without("HYD"),
+       {"***** ERROR - the hydrograph has fewer than two values (HYD): nothing is routed"}},
+      {"oneOrdinate",
+       with("HYD", {"HYD       Flood     0.5       0         0C        ", "                    5", "ENDTABLE"}),
+       {"***** ERROR - the hydrograph has fewer than two values (HYD, line 3): nothing is routed"}},
+      {"endsHigh",
+       with("HYD",
+            {"HYD       Flood     0.5       0         0C        ", "                    0         5", "ENDTABLE"}),
+       {"***** WARNING - the hydrograph ends with 5 cfs (HYD, line 4): where the routing goes on behind it, this "
+        "inflow "
+        "stays"}},
+      {"noStep",
+       with("HYD", {"HYD       Flood     ", "                    0         5         0", "ENDTABLE"}),
+       {"***** WARNING - there is no time increment above 0 (HYD, line 3): 1 hour is taken"}},
+      {"timesFall",
+       with("HYD", {"HYD       Flood     0.5       0         0V        ", "          0         0",
+                    "          1         50", "          0.5       60", "          2         0", "ENDTABLE"}),
+       {"***** WARNING - the time 0.5 does not rise (HYD, line 6): the row is left out"}},
+      {"negativeFlow",
+       with("HYD", {"HYD       Flood     0.5       0         0C        ", "                    0         -5        0",
+                    "ENDTABLE"}),
+       {"***** WARNING - discharge 2 -5 is out of range (HYD, line 4): 0 is taken"}},
+      {"noNumber",
+       with("DAMCREST", {"DAMCREST  12ft      5.6       x"}),
+       {"***** WARNING - width \"12ft\" is no number (DAMCREST, line 15): 12 is taken",
+        "***** WARNING - coefficient \"x\" is no number (DAMCREST, line 15): 0.1 is taken"}},
+      {"noStructure",
+       without("STRUCTURE"),
+       {"***** ERROR - fewer than two rows with a volume or an area (STRUCTURE): nothing is routed"}},
+      {"oneStructureRow",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100                 0         0", "ENDTABLE"}),
+       {"***** ERROR - fewer than two rows with a volume or an area (STRUCTURE, line 8): nothing is routed"}},
+      {"elevationsFall",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100                           1",
+                          "                    130                           5",
+                          "                    120                           4", "ENDTABLE"}),
+       {"***** WARNING - the elevation 120 does not rise (STRUCTURE, line 11): the row is left out"}},
+      {"volumeMissing",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100                 0", "                    110",
+                          "                    130                 90", "ENDTABLE"}),
+       {"***** WARNING - neither a volume nor the areas for one are given (STRUCTURE, line 10): the row is left out"}},
+      {"areasDisagree",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100                 0         0",
+                          "                    130                 90        10", "ENDTABLE"}),
+       {"***** WARNING - the areas make a volume that differs by 66.7 percent (STRUCTURE, line 10): the volumes given "
+        "are taken"}},
+      {"emptyFloor",
+       with("STRUCTURE",
+            {"STRUCTURE Test", "                    100                 0", "                    110                 0",
+             "                    120                 40", "                    125                 40",
+             "                    130                 90", "ENDTABLE"}),
+       {"***** WARNING - the volume is that of the next row (STRUCTURE, line 9): the row is left out",
+        "***** WARNING - the volume 40 does not rise (STRUCTURE, line 12): the row is left out"}},
+      {"noStorage",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100                 7         0",
+                          "                    130                 7         0", "ENDTABLE"}),
+       {"***** WARNING - the volume is that of the next row (STRUCTURE, line 9): the row is left out",
+        "***** ERROR - fewer than two rows with a volume or an area (STRUCTURE, line 8): nothing is routed"}},
+      {"noCrest",
+       without("CRESTPRFL"),
+       {"***** ERROR - the crest has no two points apart (CRESTPRFL): nothing is routed"}},
+      {"crestBelowFloor",
+       with("CRESTPRFL", {"CRESTPRFL", "          0         127", "          50        99", "ENDTABLE"}),
+       {"***** ERROR - the crest at 99 is not above the floor of the reservoir at 100 (CRESTPRFL, line 17): nothing is "
+        "routed"}},
+      {"noCoefficient",
+       with("DAMCREST", {"DAMCREST  12        5.6       "}),
+       {"***** WARNING - discharge coefficient is not given (DAMCREST, line 15): 2.8 is taken"}},
+      {"noPrincipal",
+       without("PSpINLET"),
+       {"***** ERROR - no principal spillway is told, nor that there is none (PSpINLET): the principal spillway "
+        "discharges nothing"}},
+      {"unknownConduit",
+       with("PSpDATA", {"PSpDATA   1    150  24                  0.013     104       101       XY"}),
+       {"***** ERROR - the spillway type \"XY\" is not known (PSpDATA, line 24): the principal spillway discharges "
+        "nothing"}},
+      {"noDiameter",
+       with("PSpDATA", {"PSpDATA   1    150  0                   0.013     104       101       SC"}),
+       {"***** ERROR - the diameter is not above 0 (PSpDATA, line 24): the principal spillway discharges nothing"}},
+      {"noTailwater",
+       without("TAILWATER"),
+       {"***** WARNING - no tailwater is given (TAILWATER): it is taken at the base of the dam"}},
+      {"tailwaterFalls",
+       with("TAILWATER",
+            {"TAILWATER", "          103       0", "          102       500", "          108       400", "ENDTABLE"}),
+       {"***** WARNING - the elevation 102 falls (TAILWATER, line 28): 103 is taken",
+        "***** WARNING - the outflow 400 does not rise (TAILWATER, line 29): the row is left out"}},
+      {"ratingFalls",
+       with("ASRATING", {"ASRATING  1Bywash   0", "          122       5", "          124       200",
+                         "          128       90", "ENDTABLE"}),
+       {"***** WARNING - the first discharge of a rating is above 0 (ASRATING, line 32): it is dry 0.01 ft below",
+        "***** WARNING - the discharge 90 falls (ASRATING, line 34): 200 is taken"}},
+      {"ratingEmpty",
+       with("ASRATING", {"ASRATING  1Bywash   0", "ENDTABLE"}),
+       {"***** ERROR - a rating has fewer than two rows (ASRATING, line 31): it discharges nothing"}},
+      {"noProfile",
+       surface({}),
+       {"***** ERROR - auxiliary spillway 1 has no run with its ASSPRFL profile behind the main run (ASSURFACE, line "
+        "31): the spillway discharges nothing"}},
+      {"startBelow",
+       with("STROUTE", {"STROUTE   90        100       FEET"}),
+       {"***** WARNING - the start 90 is below the storage table (STROUTE, line 7): 100 is taken"}},
+      {"noStart",
+       with("STROUTE", {"STROUTE             100       FEET"}),
+       {"***** WARNING - start of the routing is not given (STROUTE, line 7): 118 is taken"}},
+      {"noSoil",
+       with("OPTION", {"OPTION    COEFF     EARTH     "}),
+       {"***** ERROR - a breach is asked for, and the record of the soil is missing (HCMODEL): no breach is computed"}},
+      {"unknownOption",
+       with("OPTION", {"OPTION    HARD      MARBLE              NOBREACH"}),
+       {"***** WARNING - the surface model \"HARD\" is not known (OPTION, line 2): SIMPLE is taken",
+        "***** WARNING - the downstream surface \"MARBLE\" is not known (OPTION, line 2): EARTH is taken"}},
+      {"strayLine",
+       with("COLOUR", {"COLOUR    green"}),
+       {"***** WARNING - the line is no record (line 36): it is passed over"}},
+      {"twice",
+       with("STROUTE", {"STROUTE   110       100       FEET", "STROUTE   118       100       FEET"}),
+       {"***** WARNING - the record stands more than once (STROUTE, line 8): the last one counts"}},
+      {"noEnd",
+       without("ENDRUN"),
+       {"***** WARNING - the run has no end (ENDRUN): the end of the file is taken for it"}},
+      {"template",
+       with("TEMPLATE", {"TEMPLATE", "          1         2         3", "ENDTABLE"}),
+       {"***** WARNING - a cross section by stations is not computed with (TEMPLATE, line 36): the section of "
+        "UPSTREAM, "
+        "DAMCREST and DWNSTREAM is taken"}},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, DamMessages, testing::ValuesIn(messageCases()),
+                         [](const auto& tested) { return std::string(tested.param.name); });
+
+TEST(DamInput, tellsNoMoreThanSomeOfOneRecord) {
+  Lines rows{"HYD       Flood     0.5       0         0V        "};
+  for (int i = 0; i < 60; ++i) rows.push_back("          5         5");
+  rows.push_back("          9         0");
+  rows.push_back("ENDTABLE");
+  const Lines messages = messagesOf(with("HYD", rows).text());
+  ASSERT_EQ(messages.size(), 26U);
+  EXPECT_EQ(messages.back(), "***** WARNING - 34 more findings (HYD): they are not listed");
+}
+
+TEST(DamInput, readsTheDownstreamFaceByAnOptionThatStandsBehindIt) {
+  RunMessages messages;
+  const std::string text =
+      "DWNSTREAM 2.5       1.75      1.2       2.4       0.4\r\nOPTION    COEFF     RIPRAP\r\nENDRUN\r\n";
+  const DamModel dam = readDam(readControlRecords(text), messages);
+  EXPECT_EQ(dam.downstream.d50, 1.2);
+  EXPECT_EQ(dam.downstream.porosity, 0.4);
+}
+
+const Lines kRunBehind = {"QUIL      02/09/20022         Earth",
+                          "HYD       9                   C",
+                          "          1",
+                          "ENDTABLE",
+                          "ASSPRFL   41        0                   Earth",
+                          "          0         118       50        122       100       122",
+                          "          300       110",
+                          "ENDTABLE",
+                          "ENDJOB",
+                          "ENDRUN"};
+
+TEST(SpillwayProfile, comesFromTheRunBehindTheMainRun) {
+  RunMessages messages;
+  const DamModel dam = readDam(readControlRecords(surface(kRunBehind).text()), messages);
+  const std::vector<TablePoint>& profile = dam.auxiliary[0]->profile;
+  ASSERT_EQ(profile.size(), 4U);
+  EXPECT_EQ(profile[0].second, 118);
+  EXPECT_EQ(profile[3].first, 300);
+  EXPECT_EQ(profile[3].second, 110);
+  const std::optional<DamRun> run = buildRun(dam, messages);
+  ASSERT_TRUE(run);
+  EXPECT_EQ(messages.lines(), Lines{});
+  EXPECT_EQ(run->routing.outlets.auxiliary[0].lowest(), 122);
+  EXPECT_GT(run->routing.outlets.auxiliary[0].at(124), 300);
+}
+
+TEST(SpillwayProfile, goesByNameBeforeItGoesByOrder) {
+  DamText text;
+  text.with("ASRATING", {"ASSURFACE 1Left     3         60       110        900", "ENDTABLE",
+                         "ASSURFACE 2Right    3         80       110        900", "ENDTABLE"});
+  Lines behind{"QUIL      02/09/20023         Right", "ASSPRFL", "          0         5         10        6", "ENDRUN",
+               "QUIL      02/09/20022         Left",  "ASSPRFL", "          0         7         10        8", "ENDRUN"};
+  text.behind(behind);
+  RunMessages messages;
+  const DamModel dam = readDam(readControlRecords(text.text()), messages);
+  EXPECT_EQ(dam.auxiliary[0]->profile.at(0).second, 7);
+  EXPECT_EQ(dam.auxiliary[1]->profile.at(0).second, 5);
+}
+
+TEST(DamInput, startsAtAnOutflow) {
+  RunMessages messages;
+  const DamModel dam =
+      readDam(readControlRecords(with("STROUTE", {"STROUTE   30        100       CFS"}).text()), messages);
+  const std::optional<DamRun> run = buildRun(dam, messages);
+  ASSERT_TRUE(run);
+  const RoutingResult result = routeDam(run->routing);
+  EXPECT_NEAR(result.rows.front().flows.total(), 30, 1e-3);
+}
+
+}  // namespace
+}  // namespace kestra
