@@ -56,6 +56,12 @@ void Table::setCell(int row, int column, std::string text) {
   if (cell == text) return;
   if (UndoHistory* kept = history()) kept->keepCell(*this, index, cell);
   cell = std::move(text);
+  if (fault_ && fault_->at == CellPosition{row, column}) fault_.reset();
+  changed(Property::cells);
+}
+
+void Table::setFault(CellPosition at, std::string message) {
+  fault_ = {at, std::move(message)};
   changed(Property::cells);
 }
 
@@ -129,6 +135,7 @@ void Table::keepDesign() {
 void Table::restoreDesign() {
   Control::restoreDesign();
   size_.rows = designRows_;
+  fault_.reset();
   std::fill(std::copy(designCells_.begin(), designCells_.end(), cells_.begin()), cells_.end(), std::string());
   changed(Property::cells);
   setCursor({size_.fixedRows, size_.fixedColumns});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,12 @@ struct CellPosition {
   int row = 0;
   int column = 0;
   bool operator==(const CellPosition&) const = default;
+};
+
+// A cell whose text was refused, and why.
+struct CellFault {
+  CellPosition at;
+  std::string message;
 };
 
 // A table of texts, its first rows and columns being headings. Rows and columns count from 0, the headings included. A
@@ -64,6 +71,10 @@ class Table : public Control {
   void setRightAligned(int column, bool right) { rightAligned_[static_cast<std::size_t>(column)] = right; }
   bool rightAligned(int column) const { return rightAligned_[static_cast<std::size_t>(column)]; }
 
+  // The cell at fault is marked until its text changes.
+  void setFault(CellPosition at, std::string message);
+  const std::optional<CellFault>& fault() const { return fault_; }
+
   void userSetBlock(CellPosition at, const std::vector<std::vector<std::string>>& texts);  // one edit
   void userEdited();                                    // the user has changed cells in some other way
   void userSelect(CellPosition from, CellPosition to);  // by mouse or arrow keys
@@ -95,6 +106,7 @@ class Table : public Control {
   std::vector<bool> rightAligned_;
   CellPosition cursor_;
   CellPosition corner_;
+  std::optional<CellFault> fault_;
 };
 
 }  // namespace kestra
