@@ -9,7 +9,7 @@ namespace {
 
 std::string settingsPath(const CliOptions& options, FileSystem& files) {
   if (!options.settingsFile.empty()) return absolutePath(options.settingsFile, files.currentDirectory());
-  return joinPath(joinPath(userConfigDirectory(), "kestra-b"), "settings.ini");
+  return userSettingsFile();
 }
 
 std::string applicationPath(const CliOptions& options, FileSystem& files) {

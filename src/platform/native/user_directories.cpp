@@ -23,4 +23,8 @@ std::string userConfigDirectory() {
   return joinPath(homeDirectory(), ".config");
 }
 
+std::string userSettingsFile() {
+  return joinPath(joinPath(userConfigDirectory(), "kestra-b"), "settings.ini");
+}
+
 }  // namespace kestra

@@ -8,4 +8,7 @@ namespace kestra {
 // home directory.
 std::string userConfigDirectory();
 
+// The settings of this program, the same for all its faces.
+std::string userSettingsFile();
+
 }  // namespace kestra

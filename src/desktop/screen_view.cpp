@@ -1,0 +1,113 @@
+#include "desktop/screen_view.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <QVariant>
+#include <algorithm>
+
+#include "desktop/form_loader.h"
+#include "desktop/qt_text.h"
+
+namespace kestra {
+namespace {
+
+constexpr const char* kControlProperty = "kestraControl";
+constexpr int kTwipsPerInch = 1440;
+constexpr int kResizeMilliseconds = 20;  // between a change of size and its telling, so that a pull is told seldom
+
+}  // namespace
+
+ScreenView::ScreenView(Screen& screen, UserAction act) : screen_(screen), act_(std::move(act)) {
+  setObjectName(shown(screen.name()));
+  form_ = loadForm(shown(screen.name()), this);
+  if (form_ == nullptr) return;
+  form_->setWindowFlags(Qt::Widget);  // a form with menus would be a window of its own
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(form_);
+  menus_ = form_->findChild<QMenuBar*>();
+  bindAll();
+  giveTablesTheirMenu();
+  resized_.setSingleShot(true);
+  resized_.setInterval(kResizeMilliseconds);
+  connect(&resized_, &QTimer::timeout, this, [this] { tellSize(); });
+  screen_.addObserver(*this);
+}
+
+ScreenView::~ScreenView() {
+  screen_.removeObserver(*this);
+}
+
+QWidget* ScreenView::widgetOf(const Control& control) const {
+  const auto at = bindings_.find(&control);
+  return at == bindings_.end() ? nullptr : at->second->widget();
+}
+
+void ScreenView::controlChanged(Control& control, Property property) {
+  const auto at = bindings_.find(&control);
+  if (at != bindings_.end()) at->second->follow(property);
+}
+
+void ScreenView::screenChanged(Screen& screen) {
+  (void)screen;
+  if (onScreenChanged) onScreenChanged();
+}
+
+void ScreenView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  resized_.start();
+}
+
+void ScreenView::tellSize() {
+  if (!screen_.visible()) return;
+  const int across = width() * kTwipsPerInch / logicalDpiX();
+  const int down = height() * kTwipsPerInch / logicalDpiY();
+  if (across == screen_.width() && down == screen_.height()) return;
+  act_([this, across, down] { screen_.Form_Resize(across, down); });
+}
+
+// A table's menu under the right button is the one in the bar that copies and pastes.
+void ScreenView::giveTablesTheirMenu() {
+  for (QMenu* menu : form_->findChildren<QMenu*>()) {
+    const QList<QAction*> entries = menu->actions();
+    const auto pastes = [](const QAction* entry) { return entry->objectName() == QLatin1String("mnuPaste"); };
+    if (std::none_of(entries.begin(), entries.end(), pastes)) continue;
+    for (QTableView* table : form_->findChildren<QTableView*>()) {
+      table->setContextMenuPolicy(Qt::CustomContextMenu);
+      connect(table, &QWidget::customContextMenuRequested, menu,
+              [menu, table](const QPoint& at) { menu->popup(table->viewport()->mapToGlobal(at)); });
+    }
+  }
+}
+
+void ScreenView::bindAll() {
+  for (Control* control : screen_.controls()) {
+    const QString name = shown(control->name());
+    std::unique_ptr<Binding> binding;
+    if (auto* const menu = form_->findChild<QMenu*>(name)) binding = bindAction(*control, *menu->menuAction(), act_);
+    if (auto* const action = form_->findChild<QAction*>(name)) binding = bindAction(*control, *action, act_);
+    if (auto* const widget = form_->findChild<QWidget*>(name); widget != nullptr && binding == nullptr) {
+      binding = bindWidget(*control, *widget, act_);
+      if (binding) widget->setProperty(kControlProperty, QVariant::fromValue(static_cast<void*>(control)));
+    }
+    if (binding == nullptr) {
+      unbound_.push_back(control->name());
+      continue;
+    }
+    binding->followAll();
+    bindings_.emplace(control, std::move(binding));
+  }
+}
+
+Control* controlOf(QWidget* widget) {
+  for (; widget != nullptr; widget = widget->parentWidget()) {
+    const QVariant held = widget->property(kControlProperty);
+    if (held.isValid()) return static_cast<Control*>(held.value<void*>());
+  }
+  return nullptr;
+}
+
+}  // namespace kestra
