@@ -16,7 +16,7 @@ Application::Application(const Ports& given, const std::string& applicationDirec
       runs{ports, state, runTables, shell.progress, programs, runSummary},
       builds(runs, nullptr) {
   host.onEdited = [this](Screen& screen, Control&) {
-    if (screen.holdsInput()) state.fileDirty = true;
+    if (screen.holdsInput()) state.noteEdit();
   };
   shell.fileDesk.runs = &builds;
   host.enter(summaryFields);
@@ -28,6 +28,7 @@ Application::Application(const Ports& given, const std::string& applicationDirec
 void Application::followProject() {
   host.unload(summaryFields);
   summary.LoadSummaryStore();
+  shell.autosave.projectOpened();
 }
 
 }  // namespace kestra

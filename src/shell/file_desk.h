@@ -40,6 +40,9 @@ void setAction(Menu& command, FileDesk& desk, std::function<void()> action);
 // Asks for a file to open; an absolute path. Nothing when the dialog is cancelled or confirmed without a name.
 std::optional<std::string> chooseControlFile(FileDesk& desk, const std::string& title);
 
+// Tells under a title that another program has the open project, and nothing in it can be changed; false then.
+bool mayChangeProject(FileDesk& desk, const std::string& title);
+
 // Brings the input window to the front, no input screen before it.
 void showInputWindow(FileDesk& desk);
 

@@ -31,6 +31,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       progress(context),
       fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress},
       commands(fileDesk, projects, applicationDirectory),
+      autosave(fileDesk, commands.file),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
       graphs(context, lines),
@@ -54,6 +55,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     };
   }
   topScreen.onEnd = [this] { end(); };
+  projects.onLeaving = [this] { autosave.letGo(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
   host.onShown = [this](Screen& screen) {
@@ -95,6 +97,7 @@ void Shell::openCommandLine(std::string path) {
 }
 
 void Shell::end() {
+  autosave.letGo();
   projects.release();
   topScreen.saveRecentProjects();
   UnloadAllScreens(input.context);

@@ -9,6 +9,7 @@
 #include "screens/input_screen_set.h"
 #include "screens/screen_context.h"
 #include "screens/text_screen.h"
+#include "shell/autosave.h"
 #include "shell/frm_kestra.h"
 #include "shell/frm_top_screen.h"
 #include "shell/project_screens.h"
@@ -36,6 +37,7 @@ class Shell {
   frmProgress progress;
   FileDesk fileDesk;
   WindowCommands commands;  // of the input window
+  Autosave autosave;
   TextScreen about;
   TextScreen disclaimer;
 
