@@ -10,7 +10,8 @@ Application::Application(const Ports& given, const std::string& applicationDirec
       context{ports, state, host},
       shell(context, applicationDirectory),
       summary(ports, state, shell.catalogues),
-      summaryFields(context, summary),
+      runKeeping(ports, shell),
+      summaryScreens(shell.graphs.context, shell.lines, summary, runKeeping),
       runSummary(summary),
       programs(ports, state, shell.progress, applicationDirectory),
       runs{ports, state, runTables, shell.progress, programs, runSummary},
@@ -19,14 +20,26 @@ Application::Application(const Ports& given, const std::string& applicationDirec
     if (screen.holdsInput()) state.noteEdit();
   };
   shell.fileDesk.runs = &builds;
-  host.enter(summaryFields);
-  shell.inputWindow.mnuSpecifySum.onClick = [this] { host.show(summaryFields); };
+  joinSummary();
   shell.projects.onChanged = [this] { followProject(); };
 }
 
-// The summary is that of the open project, and a choice of fields for another one is dropped.
+void Application::joinSummary() {
+  summaryScreens.enterAll(host);
+  WindowRegistry& windows = shell.topScreen.windows();
+  windows.enter(WindowSlot::summaryTable, summaryScreens.table, &summaryScreens.table.mnuWindowsArray);
+  windows.enter(WindowSlot::summaryGraphics, summaryScreens.graphics, &summaryScreens.graphics.mnuWindowsArray);
+  runSummary.onModifyTable = [this](int entry) { summaryScreens.table.ModifyTable(static_cast<std::size_t>(entry)); };
+  runSummary.onRefreshTable = [this] { summaryScreens.followStore(); };
+  runSummary.onRefreshOpenFiles = [this] {
+    summaryScreens.table.GetFileToOpen();
+    if (shell.graphs.output.loaded()) shell.graphs.output.GetGraphToOpen();
+  };
+}
+
+// The summary is that of the open project; what is on show of another one is dropped.
 void Application::followProject() {
-  host.unload(summaryFields);
+  summaryScreens.closeAll();
   summary.LoadSummaryStore();
   shell.autosave.projectOpened();
 }

@@ -2,13 +2,13 @@
 
 #include <string>
 
+#include "app/run_keeping.h"
 #include "app/run_summary.h"
 #include "results/run_tables.h"
 #include "run/build_pipeline.h"
 #include "shell/project_guard.h"
 #include "shell/shell.h"
-#include "summary/frm_summary_fields.h"
-#include "summary/summary_store.h"
+#include "summary/summary_screens.h"
 
 namespace kestra {
 
@@ -27,13 +27,15 @@ class Application {
   Shell shell;
   RunTables runTables;
   SummaryStore summary;
-  frmSummaryFields summaryFields;
+  RunKeeping runKeeping;
+  SummaryScreens summaryScreens;
   RunSummary runSummary;
   Programs programs;
   RunContext runs;
   BuildPipeline builds;
 
  private:
+  void joinSummary();
   void followProject();
 };
 

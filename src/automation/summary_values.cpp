@@ -44,4 +44,22 @@ Json describeFieldCount(const FieldCatalogues& catalogues) {
   return {catalogues.fieldTitles[0].size(), catalogues.fieldTitles[1].size()};
 }
 
+Json describeShownNames(const SummaryTableScreen& table) {
+  Json list = Json::array();
+  for (const ShownRow& row : table.shownRows()) list.push_back(row.entry.name);
+  return list;
+}
+
+Json describeShownValues(const SummaryTableScreen& table) {
+  Json list = Json::array();
+  for (const ShownRow& row : table.shownRows()) list.push_back(row.entry.values);
+  return list;
+}
+
+Json describeShownIsCondensed(const SummaryTableScreen& table) {
+  Json list = Json::array();
+  for (const ShownRow& row : table.shownRows()) list.push_back(row.isCondensed());
+  return list;
+}
+
 }  // namespace kestra

@@ -41,6 +41,10 @@ Reader fromSummary(Json (*describe)(const SummaryStore&)) {
   return [describe](const Application& application) { return describe(application.summary); };
 }
 
+Reader fromSummaryTable(Json (*describe)(const SummaryTableScreen&)) {
+  return [describe](const Application& application) { return describe(application.summaryScreens.table); };
+}
+
 const std::map<std::string, Reader>& readers() {
   using State = ApplicationState;
   static const std::map<std::string, Reader> kReaders = [] {
@@ -84,6 +88,17 @@ const std::map<std::string, Reader>& readers() {
         {"selectedFields", fromSummary(describeSelectedFields)},
         {"fieldSelected", fromSummary(describeFieldSelected)},
         {"summaryOrder", [](const Application& a) -> Json { return a.summary.summaryOrder(); }},
+        {"shownCount", [](const Application& a) -> Json { return a.summaryScreens.table.shownRows().size(); }},
+        {"shownNames", fromSummaryTable(describeShownNames)},
+        {"shownValues", fromSummaryTable(describeShownValues)},
+        {"shownIsCondensed", fromSummaryTable(describeShownIsCondensed)},
+        {"allInstancesCount", [](const Application& a) -> Json { return a.summaryScreens.table.allInstancesCount(); }},
+        {"textFileToOpen", [](const Application& a) -> Json { return a.summaryScreens.table.textFile(); }},
+        {"graphFileToOpen", [](const Application& a) -> Json { return a.summaryScreens.table.graphFile(); }},
+        {"xField", [](const Application& a) -> Json { return a.summaryScreens.graphics.xField(); }},
+        {"yField", [](const Application& a) -> Json { return a.summaryScreens.graphics.yField(); }},
+        {"isLineGraph", [](const Application& a) -> Json { return a.summaryScreens.graphics.isLineGraph(); }},
+        {"graphShown", [](const Application& a) -> Json { return a.summaryScreens.graphics.graphShown(); }},
         {"hydrographSelected",
          [](const Application& a) -> Json { return a.shell.input.hydrographData.hydrographSelected; }},
         {"auxProfile", [](const Application& a) { return describeAuxProfiles(a.shell.input.context.aux); }},

@@ -8,7 +8,7 @@
 #include "cli/native_desk.h"
 #include "cli/options.h"
 #include "cli/pictures.h"
-#include "cli/summary_text.h"
+#include "cli/summary_command.h"
 #include "cli/terminal_session.h"
 
 namespace {

@@ -48,9 +48,11 @@ Grammar::Grammar(CliOptions& options) {
   }
   build->add_option("--project", options.project, "project directory; else that of the first file")->type_name("DIR");
   summary->add_option("--project", options.project, "project directory; else the current one")->type_name("DIR");
-  summary->add_option("--format", options.format, "form of the summary: text")
-      ->check(CLI::IsMember({"text"}))
+  summary->add_option("--format", options.format, "form of the summary: text, csv, json or xlsx; text when not given")
+      ->check(CLI::IsMember({"text", "csv", "json", "xlsx"}))
       ->type_name("FORM");
+  summary->add_flag("--all", options.all, "every instance; else those of highest, lowest and mean measure of a run");
+  summary->add_option("-o,--output", options.output, "file to write; else the standard output")->type_name("OUT");
   drive->add_option("CONTROL_FILE", options.controlFile, "the control file to open")->type_name("");
   graph->add_option("FILE", options.controlFile, "the control file of the run")->required()->type_name("");
   auto* list = graph->add_flag("--list", options.list, "list the graphs, and which of them can be drawn");
@@ -68,6 +70,15 @@ Grammar::Grammar(CliOptions& options) {
   output->type_name("OUT")->needs(numbers);
   numbers->needs(output);
   help->add_option("COMMAND", helpTopic, "the command to tell about")->type_name("");
+}
+
+// What is missing beside a command; null: nothing.
+const char* faultOf(CliCommand command, const CliOptions& options) {
+  const bool draws = options.list || !options.graphs.empty();
+  if (command == CliCommand::graph && !draws) return "graph needs --list or --graph";
+  const bool toTerminal = options.format == "xlsx" && options.output.empty();
+  if (command == CliCommand::summary && toTerminal) return "summary --format xlsx needs -o";
+  return nullptr;
 }
 
 // Help on the whole program; a grammar that has parsed a command would tell of that command alone.
@@ -125,8 +136,8 @@ std::optional<CliOptions> parseCommandLine(int argc, const char* const* argv, st
       {grammar.graph, CliCommand::graph},           {grammar.drive, CliCommand::drive}};
   for (const auto& [word, command] : commands) {
     if (!word->parsed()) continue;
-    if (command == CliCommand::graph && !options.list && options.graphs.empty()) {
-      err << "kestra: graph needs --list or --graph\nRun kestra help for the commands.\n";
+    if (const char* fault = faultOf(command, options)) {
+      err << "kestra: " << fault << "\nRun kestra help for the commands.\n";
       exitCode = kWrongUsage;
       return std::nullopt;
     }

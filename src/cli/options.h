@@ -20,9 +20,11 @@ struct CliOptions {
   bool yes = false;
   bool list = false;        // graph: which graphs there are
   std::vector<int> graphs;  // graph: their numbers, 0 to 21
-  std::string format;       // graph: png, svg, pdf or csv, empty: by the name of the output; summary: text
+  std::string format;       // graph: png, svg, pdf or csv, empty: by the name of the output; summary: text, csv,
+                            // json or xlsx, empty: text
   std::string size;         // graph: "800x600", pixels; empty: 1200 x 800
-  std::string output;       // graph: a file, "-" for the standard output
+  std::string output;       // graph, summary: a file, "-" for the standard output; summary, empty: likewise
+  bool all = false;         // summary: every entry
 };
 
 // Reads the command line. Without a value there is nothing left to do and `exitCode` says how it ended: the version or

@@ -10,7 +10,7 @@ namespace kestra {
 Table::Table(Screen& screen, std::string name, Size size)
     : Control(screen, std::move(name), ControlKind::table),
       size_(size),
-      designRows_(size.rows),
+      design_(size),
       cells_(static_cast<std::size_t>(size.rows) * static_cast<std::size_t>(size.columns)),
       columnWidths_(static_cast<std::size_t>(size.columns)),
       rowHeights_(static_cast<std::size_t>(size.rows)),
@@ -33,6 +33,21 @@ void Table::growTo(int rows) {
   const auto most = std::max(rowHeights_.size(), static_cast<std::size_t>(rows));
   rowHeights_.resize(most);
   rowsShown_.resize(most, true);
+  changed(Property::cells);
+}
+
+void Table::become(Size size, std::vector<std::string> cells) {
+  size_ = size;
+  cells.resize(indexOf(size.rows, 0));
+  cells_ = std::move(cells);
+  const auto columns = static_cast<std::size_t>(size.columns);
+  const auto rows = static_cast<std::size_t>(size.rows);
+  columnWidths_.assign(columns, 0);
+  centred_.assign(columns, false);
+  rightAligned_.assign(columns, false);
+  rowHeights_.assign(rows, 0);
+  rowsShown_.assign(rows, true);
+  cursor_ = corner_ = {size.fixedRows, size.fixedColumns};
   changed(Property::cells);
 }
 
@@ -122,13 +137,14 @@ void Table::userDoubleClick() {
 
 void Table::keepDesign() {
   Control::keepDesign();
-  designRows_ = size_.rows;
+  design_ = size_;
   designCells_ = cells_;
 }
 
 void Table::restoreDesign() {
   Control::restoreDesign();
-  size_.rows = designRows_;
+  if (size_.columns != design_.columns || cells_.size() < designCells_.size()) become(design_, {});
+  size_ = design_;
   std::fill(std::copy(designCells_.begin(), designCells_.end(), cells_.begin()), cells_.end(), std::string());
   changed(Property::cells);
   setCursor({size_.fixedRows, size_.fixedColumns});

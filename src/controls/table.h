@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -37,6 +38,9 @@ class Table : public Control {
 
   const std::string& cell(int row, int column) const;
   void setCell(int row, int column, std::string text);
+  // Takes another size, and `cells` row by row for its content; widths, heights and alignments as the window likes. The
+  // cursor goes to the first cell that is no heading. For tables that only show: it is not undone.
+  void become(Size size, std::vector<std::string> cells);
   void clearData();  // blanks all cells but the headings, the cursor on the first of them
 
   CellPosition cursor() const { return cursor_; }
@@ -64,6 +68,10 @@ class Table : public Control {
   void setRightAligned(int column, bool right) { rightAligned_[static_cast<std::size_t>(column)] = right; }
   bool rightAligned(int column) const { return rightAligned_[static_cast<std::size_t>(column)]; }
 
+  // Of the cells' font; empty: as the window likes.
+  const std::string& fontName() const { return fontName_; }
+  void setFontName(std::string name) { fontName_ = std::move(name); }
+
   void userSetBlock(CellPosition at, const std::vector<std::vector<std::string>>& texts);  // one edit
   void userEdited();                                    // the user has changed cells in some other way
   void userSelect(CellPosition from, CellPosition to);  // by mouse or arrow keys
@@ -85,7 +93,7 @@ class Table : public Control {
   std::size_t indexOf(int row, int column) const;
 
   Size size_;
-  int designRows_;
+  Size design_;
   std::vector<std::string> cells_;  // may hold rows that an undo has taken off the table again
   std::vector<std::string> designCells_;
   std::vector<int> columnWidths_;
@@ -93,6 +101,7 @@ class Table : public Control {
   std::vector<bool> rowsShown_;
   std::vector<bool> centred_;
   std::vector<bool> rightAligned_;
+  std::string fontName_;
   CellPosition cursor_;
   CellPosition corner_;
 };

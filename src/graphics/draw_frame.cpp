@@ -59,8 +59,7 @@ void setGraphScale(const GraphSheet& sheet, AbstractCanvas& canvas) {
   canvas.Scale(w.Xmin - 1.2 * xd / 5, w.Ymin - yd / 9.5, w.Xmax + right, w.Ymax + 1.8 * yd / 5);
 }
 
-Steps DrawAxis(const GraphSheet& sheet, AbstractCanvas& canvas) {
-  const Steps steps = Scaling(sheet.window, sheet.memo);
+void DrawFrame(const GraphSheet& sheet, AbstractCanvas& canvas) {
   const View& w = sheet.window;
   setGraphScale(sheet, canvas);
   canvas.DrawMode(kCopyMode);
@@ -70,6 +69,11 @@ Steps DrawAxis(const GraphSheet& sheet, AbstractCanvas& canvas) {
   canvas.LineTo(w.Xmax, w.Ymax);
   canvas.Line(w.Xmin, w.Ymin, w.Xmax, w.Ymin);
   canvas.LineTo(w.Xmax, w.Ymax);
+}
+
+Steps DrawAxis(const GraphSheet& sheet, AbstractCanvas& canvas) {
+  const Steps steps = Scaling(sheet.window, sheet.memo);
+  DrawFrame(sheet, canvas);
   return steps;
 }
 

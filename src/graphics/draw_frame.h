@@ -15,7 +15,10 @@ namespace kestra {
 // on the right a margin that is wider when there is a legend (more than one series).
 void setGraphScale(const GraphSheet& sheet, AbstractCanvas& canvas);
 
-// Rounds the window by Scaling, whose fault goes through, sets the canvas window and draws the frame.
+// Sets the canvas window and draws the four sides of the plot.
+void DrawFrame(const GraphSheet& sheet, AbstractCanvas& canvas);
+
+// Rounds the window by Scaling, whose fault goes through, and draws the frame.
 Steps DrawAxis(const GraphSheet& sheet, AbstractCanvas& canvas);
 
 // Ticks from the window's lower ends on, with their numbers, which are cut to two decimals.

@@ -115,9 +115,6 @@ class frmOutputGraph : public GraphScreen, public GraphToolHost {
   void copy();
   void saveAs();
   void exportData();
-  void tell(const Failure& failure);
-  PictureSize pictureSize() const;
-  Result<std::string> picture(PictureForm form);
 
   GraphContext& context_;
   GraphNeighbours neighbours_;

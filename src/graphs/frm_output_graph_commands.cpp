@@ -97,36 +97,12 @@ CanvasControl& frmOutputGraph::pictured() {
   return Pic1(shown_ == kSampleGraph ? 0 : shown_);
 }
 
-PictureSize frmOutputGraph::pictureSize() const {
-  constexpr int kTwipsPerPixel = 15;
-  return {width() / kTwipsPerPixel, height() / kTwipsPerPixel};
-}
-
-Result<std::string> frmOutputGraph::picture(PictureForm form) {
-  if (context_.pictures == nullptr) {
-    return Failure{FailureKind::other, {}, "This program was built without the picture renderer"};
-  }
-  return context_.pictures->make({&pictured().log()}, form, pictureSize());
-}
-
-void frmOutputGraph::tell(const Failure& failure) {
-  const std::string place = failure.path.empty() ? "" : failure.path + ": ";
-  context_.base.ports.boxes.tell("Error Message", place + failure.reason, BoxIcon::critical);
-}
-
 void frmOutputGraph::print() {
-  const auto choice = context_.base.ports.dialogs.choosePrint({});
-  if (!choice) return;
-  const Result<std::string> document = picture(PictureForm::pdf);
-  const bool printed = document && context_.printer != nullptr && context_.printer->print(document.value(), *choice);
-  if (printed) return;
-  context_.base.ports.boxes.tell("Printer Error", "Unable to print graph, check printer.", BoxIcon::warning);
+  printPictures(context_, {&pictured().log()}, pictureSizeOf(*this), "Unable to print graph, check printer.");
 }
 
 void frmOutputGraph::copy() {
-  const Result<std::string> bitmap = picture(PictureForm::bmp);
-  if (!bitmap) return tell(bitmap.failure());
-  context_.base.ports.clipboard.setPicture(bitmap.value());
+  copyPicture(context_, pictured().log(), pictureSizeOf(*this));
 }
 
 void frmOutputGraph::saveAs() {
@@ -134,10 +110,7 @@ void frmOutputGraph::saveAs() {
       chooseFile(context_.base.ports,
                  {FileDialog::Kind::save, "Save As", "All Files (*.*)|*.*|Bitmap Files (*.bmp)|*.bmp", 2, {}, false});
   if (!path || path->empty()) return;
-  const Result<std::string> bitmap = picture(PictureForm::bmp);
-  if (!bitmap) return tell(bitmap.failure());
-  const Status written = writeWholeFile(context_.base.ports.files, *path, bitmap.value());
-  if (!written) tell(written.failure());
+  savePicture(context_, *path, PictureForm::bmp, pictured().log(), pictureSizeOf(*this));
 }
 
 void frmOutputGraph::exportData() {
@@ -146,9 +119,9 @@ void frmOutputGraph::exportData() {
                  {FileDialog::Kind::save, "Export Data", "All Files (*.*)|*.*|CSV Files (*.csv)|*.csv", 2, {}, false});
   if (!path || path->empty()) return;
   const auto csv = csvOf(shown_);
-  if (!csv) return tell({FailureKind::other, {}, noticeOf(graphEntry(shown_))});
+  if (!csv) return tellFailure(context_, {FailureKind::other, {}, noticeOf(graphEntry(shown_))});
   const Status written = writeWholeFile(context_.base.ports.files, *path, *csv);
-  if (!written) tell(written.failure());
+  if (!written) tellFailure(context_, written.failure());
 }
 
 }  // namespace kestra

@@ -1,18 +1,13 @@
 #pragma once
 
 #include "graphics/line_settings.h"
-#include "graphics/picture_maker.h"
-#include "platform/printer.h"
-#include "screens/screen_context.h"
+#include "screens/picture_desk.h"
 
 namespace kestra {
 
 // What graph screens are given: what every screen is, the user's colours and lines, and who makes and prints pictures.
-struct GraphContext {
-  ScreenContext& base;
+struct GraphContext : PictureDesk {
   LineSettings& lines;
-  PictureMaker* pictures = nullptr;  // null: a program that makes none
-  Printer* printer = nullptr;        // likewise
 };
 
 // A screen that draws with the user's colours and lines, to which the screens that change these lead back.

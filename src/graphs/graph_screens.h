@@ -10,7 +10,7 @@ namespace kestra {
 // The graph screens, made once and joined to each other.
 class GraphScreens {
  public:
-  GraphScreens(ScreenContext& base, LineSettings& lines) : context{base, lines} {}
+  GraphScreens(ScreenContext& base, LineSettings& lines) : context{{base}, lines} {}
 
   GraphContext context;
   frmGraphPP preview{context};

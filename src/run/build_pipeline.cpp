@@ -8,6 +8,7 @@
 #include "base/runtime_fault.h"
 #include "base/text.h"
 #include "platform/files.h"
+#include "results/input_digest.h"
 #include "run/dam_solver.h"
 #include "run/file_steps.h"
 #include "run/old_run_files.h"
@@ -60,6 +61,7 @@ void BuildPipeline::build() {
   FileSystem& files = context_.ports.files;
   DeleteOldRunFiles(files, state.projectDir, names.run);
   deleteFilesOfStem(files, names.base);
+  (void)keepInputDigest(files, controlFile);  // without one nobody is told of a change
   SplitControlFile(files, context_.tables, controlFile, names.base);
   showStep(context_, 1, name);
   RunDamSolver(context_, controlFile, !context_.silent);

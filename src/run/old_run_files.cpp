@@ -1,6 +1,8 @@
 #include "run/old_run_files.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 
 #include "base/paths.h"
 #include "base/runtime_fault.h"
@@ -18,27 +20,47 @@ bool hasControlFile(const Entries& entries, const std::string& base) {
                      [&](const DirectoryEntry& entry) { return equalIgnoringCase(entry.name, base + ".KSC"); });
 }
 
-// A file of this run, or of a run that is no more.
-bool belongsTo(const std::string& run, const std::string& name, const Entries& entries) {
-  if (!name.starts_with(run + ".") || isInputOfRuns(name)) return false;
+using Runs = std::set<std::string, std::less<>>;
+
+// A file of one of these runs, or of a run that is no more: its name up to some dot is that of the run.
+bool belongsToOneOf(const Runs& runs, const std::string& name, const Entries& entries) {
+  if (isInputOfRuns(name)) return false;
   const std::string base = withoutExtension(name);
-  return base == run || !hasControlFile(entries, base);
+  for (std::size_t dot = name.find('.'); dot != std::string::npos; dot = name.find('.', dot + 1)) {
+    if (!runs.contains(std::string_view(name).substr(0, dot))) continue;
+    if (dot == base.size() || !hasControlFile(entries, base)) return true;
+  }
+  return false;
+}
+
+// What cannot be listed or emptied is left as it is.
+void deleteFilesIn(FileSystem& files, const std::string& folder, const Runs& runs) try {
+  const Entries entries = entriesOf(files, folder);
+  for (const DirectoryEntry& entry : entries) {
+    if (entry.type == FileStatus::Type::directory || !belongsToOneOf(runs, entry.name, entries)) continue;
+    (void)files.removeFile(joinPath(folder, entry.name));
+  }
+} catch (const RuntimeFault&) {
+}
+
+void emptyResults(FileSystem& files, const std::string& stem) try {
+  if (isDirectory(files, stem)) emptyDirectory(files, stem);
+} catch (const RuntimeFault&) {
 }
 
 }  // namespace
 
-void deleteFilesOfStem(FileSystem& files, const std::string& stem) try {
-  const std::string folder(directoryOf(stem));
-  const std::string run(ParsePathName(stem));
-  if (isOnlyDots(run)) return;
-  const Entries entries = entriesOf(files, folder);
-  for (const DirectoryEntry& entry : entries) {
-    if (entry.type == FileStatus::Type::directory || !belongsTo(run, entry.name, entries)) continue;
-    (void)files.removeFile(joinPath(folder, entry.name));
+void deleteFilesOfStems(FileSystem& files, const std::vector<std::string>& stems) {
+  std::map<std::string, Runs> byFolder;
+  for (const std::string& stem : stems) {
+    if (const std::string_view run = ParsePathName(stem); !isOnlyDots(run)) {
+      byFolder[std::string(directoryOf(stem))].emplace(run);
+    }
   }
-  if (isDirectory(files, stem)) emptyDirectory(files, stem);
-} catch (const RuntimeFault&) {
-  // Left as it is.
+  for (const auto& [folder, runs] : byFolder) {
+    deleteFilesIn(files, folder, runs);
+    for (const std::string& run : runs) emptyResults(files, joinPath(folder, run));
+  }
 }
 
 void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -13,7 +14,10 @@ namespace kestra {
 // Nothing happens for a name that leads out of the project or names none of its files.
 void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName);
 
-// The same for a given stem.
-void deleteFilesOfStem(FileSystem& files, const std::string& stem);
+// The same for given stems; each directory is gone through once for all of them.
+void deleteFilesOfStems(FileSystem& files, const std::vector<std::string>& stems);
+inline void deleteFilesOfStem(FileSystem& files, const std::string& stem) {
+  deleteFilesOfStems(files, {stem});
+}
 
 }  // namespace kestra

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "platform/files.h"
+
 namespace kestra {
 
 std::optional<std::string> chooseFile(Ports& ports, const FileDialog& dialog) {
@@ -16,6 +18,11 @@ std::optional<std::string> chooseNamedFile(Ports& ports, const FileDialog& dialo
   if (!file || !file->empty()) return file;
   ports.boxes.tell(noName.title, noName.text, BoxIcon::warning);
   return std::nullopt;
+}
+
+bool mayWrite(Ports& ports, const std::string& path, const std::string& title) {
+  if (!exists(ports.files, path)) return true;
+  return ports.boxes.confirm(title, "The file " + path + " already exists. Do you want to replace it?");
 }
 
 Result<std::string> readLines(Ports& ports, const std::string& path) {

@@ -84,17 +84,10 @@ std::vector<int> frmSummaryFields::available(int level) const {
   return fields;
 }
 
-// A field that the catalogue does not name goes by its number.
-std::string frmSummaryFields::title(int level, int field) const {
-  const auto& titles = store_.catalogues().fieldTitles[static_cast<std::size_t>(level)];
-  const auto index = static_cast<std::size_t>(field - 1);
-  return index < titles.size() ? titles[index] : "Field " + std::to_string(field);
-}
-
 void frmSummaryFields::showLevel(int level, int selectedIndex, int availableIndex) {
   const auto show = [this, level](ListBox& list, const std::vector<int>& fields, int index) {
     std::vector<std::string> titles;
-    for (const int field : fields) titles.push_back(title(level, field));
+    for (const int field : fields) titles.push_back(store_.catalogues().title(static_cast<SummaryLevel>(level), field));
     list.setItems(std::move(titles));
     list.setIndex(index);
   };
@@ -130,7 +123,7 @@ void frmSummaryFields::remove(int level) {
 void frmSummaryFields::accept() {
   accepted_ = true;
   store_.setSelection(choice_);
-  tellUnsaved(store_.SaveSummaryStore(store_.projectFile()));
+  tellUnsaved(context_.ports.boxes, store_.SaveSummaryStore(store_.projectFile()));
   if (onAccepted) onAccepted();
   host().unload(*this);
 }
@@ -155,14 +148,7 @@ void frmSummaryFields::saveSelection() {
   if (!path) return;
   const std::string question = "The file " + *path + " already exists. Do you want to replace it?";
   if (exists(ports.files, presentPath(ports.files, *path)) && !ports.boxes.confirm("Save As...", question)) return;
-  tellUnsaved(store_.writeFile(*path, choice_));
-}
-
-void frmSummaryFields::tellUnsaved(const Status& written) {
-  if (written) return;
-  const Failure& failure = written.failure();
-  context_.ports.boxes.tell(kError, "Unable to save Summary File. " + failure.path + ": " + failure.reason,
-                            BoxIcon::warning);
+  tellUnsaved(context_.ports.boxes, store_.writeFile(*path, choice_));
 }
 
 }  // namespace kestra

@@ -45,7 +45,6 @@ class frmSummaryFields : public Screen {
   void takeUp(int level);
   std::vector<int>& selected(int level) { return choice_.selectedFields[static_cast<std::size_t>(level)]; }
   std::vector<int> available(int level) const;
-  std::string title(int level, int field) const;
   void showLevel(int level, int selectedIndex = -1, int availableIndex = -1);
   void showChoice();
 
@@ -54,7 +53,6 @@ class frmSummaryFields : public Screen {
   void accept();
   void openSelection();
   void saveSelection();
-  void tellUnsaved(const Status& written);
 
   ScreenContext& context_;
   SummaryStore& store_;

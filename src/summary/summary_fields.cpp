@@ -28,6 +28,12 @@ void FieldCatalogues::LoadFieldCatalogues(FileSystem& files, const std::string& 
   fieldTitles[1] = titlesIn(files, applicationDirectory, "Summary.ids");
 }
 
+std::string FieldCatalogues::title(SummaryLevel level, int field) const {
+  const std::vector<std::string>& titles = fieldTitles[static_cast<std::size_t>(level)];
+  const auto index = static_cast<std::size_t>(field - 1);
+  return index < titles.size() ? titles[index] : "Field " + std::to_string(field);
+}
+
 SummarySelection defaultSummarySelection() {
   return {{{{1, 9, 11, 12, 17, 18, 19, 36, 37, 38, 39, 40}, {1, 2, 3, 4, 5, 6}}}};
 }

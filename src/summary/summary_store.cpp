@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "base/lines.h"
 #include "base/paths.h"
 #include "base/runtime_fault.h"
 #include "base/text.h"
 #include "platform/files.h"
 #include "results/result_files.h"
+#include "summary/digest_values.h"
 
 namespace kestra {
 namespace {
@@ -15,18 +15,6 @@ namespace {
 constexpr const char* kSettings = "SummaryFields";
 constexpr const char* kOrderKey = "summaryOrder";
 constexpr std::size_t kMostDamLines = 42;
-
-// A value of a digest, a line; double quotes around it are not part of it.
-std::string_view valueOf(std::string_view line) {
-  line = trim(line);
-  const bool quoted = line.size() > 1 && line.starts_with('"') && line.ends_with('"');
-  return quoted ? line.substr(1, line.size() - 2) : line;
-}
-
-void fill(EntryValues& values, std::size_t offset, std::size_t count, std::string_view text) {
-  const std::size_t end = std::min(offset + count, values.size());
-  for (std::size_t i = offset; i < end; ++i) values[i] = text;
-}
 
 bool isEmpty(const SummarySelection& selection) {
   return std::all_of(selection.selectedFields.begin(), selection.selectedFields.end(),
@@ -46,10 +34,19 @@ SummaryFile joined(SummaryFile file, const SummarySelection& selection, const st
 
 }  // namespace
 
+std::string readSummaryOrder(SettingsStore& settings) {
+  return settings.get(kSettings, kOrderKey, kByColumn) == kByRow ? kByRow : kByColumn;
+}
+
+void tellUnsaved(MessageBoxes& boxes, const Status& written) {
+  if (written) return;
+  const Failure& failure = written.failure();
+  boxes.tell("Error Message", "Unable to save Summary File. " + failure.path + ": " + failure.reason, BoxIcon::warning);
+}
+
 void SummaryStore::LoadSummaryStore() {
   clear();
-  const std::string order = ports_.settings.get(kSettings, kOrderKey, kByColumn);
-  summaryOrder_ = order == kByRow ? kByRow : kByColumn;
+  summaryOrder_ = readSummaryOrder(ports_.settings);
   if (state_.projectDir.empty()) return;
   fileUnread_ = true;
   if (damFields() == 0) return;
@@ -61,6 +58,7 @@ void SummaryStore::LoadSummaryStore() {
   selection_ = std::move(file.selection);
   DigestPlaces places(ports_.files, state_.projectDir);
   for (const std::string& name : file.entryNames) loadEntry(places, name);
+  damPath_.clear();
   if (!file.understood) tellUnreadable();
 }
 
@@ -86,14 +84,16 @@ std::size_t SummaryStore::LoadDigestEntry(int fieldOffset, const std::string& di
     throw RuntimeFault("field offset " + std::to_string(fieldOffset) + " is outside 0 to " +
                        std::to_string(kEntryPositions - 1));
   }
-  SummaryEntry& entry = entryNamed(entryName);
-  takeDigest(entry.values, digestPath, static_cast<std::size_t>(fieldOffset), damFields());
-  return static_cast<std::size_t>(&entry - entries_.data()) + 1;
+  std::size_t place = 0;
+  SummaryEntry& entry = entries_.named(entryName, &place);
+  entry.ofInstance = fieldOffset >= static_cast<int>(kInstanceOffset);
+  takeDigest(ports_.files, entry.values, digestPath, static_cast<std::size_t>(fieldOffset), damFields());
+  return place + 1;
 }
 
 std::vector<std::string> SummaryStore::entryNames() const {
   std::vector<std::string> names;
-  for (const SummaryEntry& entry : entries_) names.push_back(entry.name);
+  for (const SummaryEntry& entry : entries_.all()) names.push_back(entry.name);
   return names;
 }
 
@@ -112,35 +112,25 @@ void SummaryStore::tellUnreadable() {
 }
 
 void SummaryStore::loadEntry(DigestPlaces& places, const std::string& name) {
-  EntryValues& values = entryNamed(name).values;
+  SummaryEntry& entry = entries_.named(name);
   const EntryDigests digests = places.find(name);
+  entry.ofInstance = digests.ofInstance || digests.instance;
   if (digests.instance) {
-    takeDigest(values, *digests.instance, kInstanceOffset, damFields());
+    takeDigest(ports_.files, entry.values, *digests.instance, kInstanceOffset, damFields());
   } else if (digests.ofInstance || !digests.dam) {
-    fill(values, 0, damFields(), kNotAvailable);
+    fillValues(entry.values, 0, damFields(), kNotAvailable);
   }
-  const bool besideInstance = digests.ofInstance || digests.instance;
-  if (digests.dam) takeDigest(values, *digests.dam, 0, besideInstance ? kInstanceOffset : kMostDamLines);
+  if (digests.dam) takeDamDigest(entry.values, *digests.dam, entry.ofInstance ? kInstanceOffset : kMostDamLines);
 }
 
-// Puts the lines of a digest, at most so many, into the positions behind `offset`; "N/A" when it cannot be read.
-void SummaryStore::takeDigest(EntryValues& values, const std::string& path, std::size_t offset, std::size_t most) {
-  const auto text = readResultFile(ports_.files, path);
-  fill(values, offset, most, text ? std::string_view() : kNotAvailable);
-  if (!text) return;
-  LineReader lines(text.value());
-  std::string_view line;
-  for (std::size_t at = offset; at < std::min(offset + most, values.size()) && lines.next(line); ++at) {
-    values[at] = valueOf(line);
+// The instances of a run stand together and share the digest of their dam: it is read once.
+void SummaryStore::takeDamDigest(EntryValues& values, const std::string& path, std::size_t most) {
+  if (path != damPath_) {
+    damValues_ = {};
+    takeDigest(ports_.files, damValues_, path, 0, kMostDamLines);
+    damPath_ = path;
   }
-}
-
-// The entry of that name, whatever its letter case; a new one at the end when there is none.
-SummaryEntry& SummaryStore::entryNamed(const std::string& name) {
-  const auto at = std::find_if(entries_.begin(), entries_.end(),
-                               [&name](const SummaryEntry& entry) { return equalIgnoringCase(entry.name, name); });
-  if (at != entries_.end()) return *at;
-  return entries_.emplace_back(SummaryEntry{name, {}});
+  std::copy_n(damValues_.begin(), most, values.begin());
 }
 
 }  // namespace kestra

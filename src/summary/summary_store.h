@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -9,24 +8,20 @@
 #include "platform/ports.h"
 #include "shell/application_state.h"
 #include "summary/digest_places.h"
+#include "summary/entry_list.h"
 #include "summary/summary_fields.h"
 #include "summary/summary_file.h"
 
 namespace kestra {
 
-// Positions of an entry's values: the lines of the dam's digest from the first on, those of an instance's digest behind
-// them. A dam has more lines than that; an instance takes the first 25 of them, so that its own stand.
-inline constexpr std::size_t kInstanceOffset = 25;
-inline constexpr std::size_t kEntryPositions = kInstanceOffset + kMostSummaryFields;
-using EntryValues = std::array<std::string, kEntryPositions>;
-
-struct SummaryEntry {
-  std::string name;  // of the run; no two differ in letter case alone
-  EntryValues values;
-};
-
 inline constexpr const char* kByRow = "1";  // summaryOrder: one entry a row
 inline constexpr const char* kByColumn = "2";
+
+// The order that the user's settings hold.
+std::string readSummaryOrder(SettingsStore& settings);
+
+// Tells of a store that could not be saved.
+void tellUnsaved(MessageBoxes& boxes, const Status& written);
 
 // The summary of the open project: its runs with their digests, and which fields of them the user wants to see. It is
 // kept in the project's SUMMARY.IDE; the order of the tables in the user's settings. One object, owned by the
@@ -53,7 +48,8 @@ class SummaryStore {
   // outside of the positions.
   std::size_t LoadDigestEntry(int fieldOffset, const std::string& digestPath, const std::string& entryName);
 
-  const std::vector<SummaryEntry>& entries() const { return entries_; }
+  const std::vector<SummaryEntry>& entries() const { return entries_.all(); }
+  EntryList& list() { return entries_; }
   std::vector<std::string> entryNames() const;
   const FieldCatalogues& catalogues() const { return catalogues_; }
 
@@ -69,13 +65,14 @@ class SummaryStore {
   void clear();
   void tellUnreadable();
   void loadEntry(DigestPlaces& places, const std::string& name);
-  void takeDigest(EntryValues& values, const std::string& path, std::size_t offset, std::size_t most);
-  SummaryEntry& entryNamed(const std::string& name);
+  void takeDamDigest(EntryValues& values, const std::string& path, std::size_t most);
 
   Ports& ports_;
   const ApplicationState& state_;
   const FieldCatalogues& catalogues_;
-  std::vector<SummaryEntry> entries_;
+  EntryList entries_;
+  EntryValues damValues_;  // of the digest of a dam that was read last, while entries are loaded
+  std::string damPath_;
   SummarySelection selection_;
   std::string summaryOrder_ = kByColumn;
   bool fileUnread_ = false;  // the project's file holds what the store does not know

@@ -206,8 +206,18 @@ TEST(CommandLine, takesAProjectAndAFormForTheSummary) {
   EXPECT_EQ(plain.options->command, CliCommand::summary);
   EXPECT_EQ(plain.options->project, "");
   EXPECT_EQ(plain.options->format, "text");
-  EXPECT_EQ(parse({"summary", "--project", "p", "--format", "text"}).options->project, "p");
+  EXPECT_FALSE(plain.options->all);
+  for (const char* format : {"text", "csv", "json"}) {
+    const Parsed given = parse({"summary", "--project", "p", "--format", format, "--all"});
+    ASSERT_TRUE(given.options) << given.err;
+    EXPECT_EQ(given.options->project, "p");
+    EXPECT_EQ(given.options->format, format);
+    EXPECT_TRUE(given.options->all);
+  }
   EXPECT_EQ(parse({"summary", "--format", "sheet"}).exitCode, 2);
+  EXPECT_EQ(parse({"summary", "--format", "xlsx", "-o", "a.xlsx"}).options->output, "a.xlsx");
+  EXPECT_EQ(parse({"summary", "--format", "xlsx"}).err,
+            "kestra: summary --format xlsx needs -o\nRun kestra help for the commands.\n");
 }
 
 TEST(CommandLine, leavesPathsAsTheyStand) {

@@ -8,16 +8,6 @@
 
 namespace kestra {
 
-struct FakePrinter : Printer {
-  Status print(const std::string& pdf, const PrintChoice& choice) override {
-    printed += pdf + ", copies " + std::to_string(choice.copies);
-    if (jammed) return Failure{FailureKind::other, "lp", "paper jam"};
-    return Done();
-  }
-  std::string printed;
-  bool jammed = false;
-};
-
 // The graph screens on ports that need no machine, with the files of a sample run in /p.
 struct GraphDesk : InputDesk {
   using Lines = std::vector<std::string>;

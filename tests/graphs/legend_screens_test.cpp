@@ -107,7 +107,7 @@ TEST_F(TheLegends, tellWhenAColourCannotBeKept) {
   FullSettings full;
   Ports fullPorts{boxes, dialogs, full, clipboard, processes, files, events, beeper, entropy, clock, help};
   ScreenContext fullBase{fullPorts, state, host};
-  GraphContext fullContext{fullBase, lines};
+  GraphContext fullContext{{fullBase}, lines};
   ScreenHost aside(state.bExiting);
   frmUpdateColors screenAside(fullContext);
   aside.enter(screenAside);

@@ -54,10 +54,10 @@ TEST_F(ProjectSummary, hasItsFieldsChosenFromTheInputWindow) {
   EXPECT_FALSE(app.shell.inputWindow.mnuSpecifySum.enabled());
   open("/home/a");
   app.shell.inputWindow.mnuSpecifySum.click();
-  EXPECT_EQ(app.host.shown().front(), &app.summaryFields);
-  EXPECT_EQ(app.summaryFields.lstSelected(0).items(), std::vector<std::string>{"Crest"});
+  EXPECT_EQ(app.host.shown().front(), &app.summaryScreens.fields);
+  EXPECT_EQ(app.summaryScreens.fields.lstSelected(0).items(), std::vector<std::string>{"Crest"});
   open("/home/b");
-  EXPECT_FALSE(app.summaryFields.loaded());
+  EXPECT_FALSE(app.summaryScreens.fields.loaded());
 }
 
 }  // namespace

@@ -41,6 +41,8 @@ TEST(DigestPlaces, ofAnInstanceStandInTheDirectoryOfItsRun) {
   files.put("/p/run/run2_0/a.DIS", "");
   EXPECT_EQ(placesOf(files, "run_4"), "/p/run.DIS|/p/run/run_4.DIS|instance");
   EXPECT_EQ(placesOf(files, "run2_0"), "/p/run.DIS|/p/run/run2_0.dis|instance");
+  files.put("/p/run/run1_0/a.DIS", "");
+  EXPECT_EQ(placesOf(files, "run/run1_0/a"), "/p/run.DIS|/p/run/run1_0/a.DIS|instance");
   EXPECT_EQ(placesOf(files, "run2_0/a"), "/p/run.DIS|/p/run/run2_0/a.DIS|instance");
   EXPECT_EQ(placesOf(files, "big_run1_0"), "/p/big_run.DIS|/p/big_run/big_run1_0.DIS|instance");
   EXPECT_EQ(placesOf(files, "run2_9"), "/p/run.DIS|-|instance");
@@ -51,6 +53,39 @@ TEST(DigestPlaces, ofADamWithUnderscoreInItsNameAreFoundToo) {
   MemoryFileSystem files;
   files.put("/p/big_run.DIS", "");
   EXPECT_EQ(placesOf(files, "big_run"), "/p/big_run.DIS|-");
+}
+
+TEST(DigestPlaces, tellWhereTheFilesOfAnEntryAndOfItsRunStand) {
+  MemoryFileSystem files;
+  for (const char* path : {"dam.DIS", "dam/dam1_0.DIS", "dam/dam1_1/a.DIS", "east1/east1_0.DIS", "a_b.DIS"}) {
+    files.put(std::string("/p/") + path, "");
+  }
+  const struct {
+    const char* name;
+    const char* stem;
+    const char* run;
+    bool ofInstance;
+  } cases[] = {
+      {"dam", "/p/dam", "/p/dam", false},
+      {"gone", "/p/gone", "/p/gone", false},
+      {"a_b", "/p/a_b", "/p/a_b", false},
+      {"dam1_0", "/p/dam/dam1_0", "/p/dam", true},
+      {"dam1_9", "/p/dam/dam1_9", "/p/dam", true},
+      {"dam/dam1_1/a", "/p/dam/dam1_1/a", "/p/dam", true},
+      {"east1_0", "/p/east1/east1_0", "/p/east1", true},
+      {"east1_7", "/p/east1/east1_7", "/p/east1", true},
+      {"gone1_0", "/p/gone1/gone1_0", "/p/gone1", true},
+      {"dam4_0", "/p/dam4/dam4_0", "/p/dam4", true},
+  };
+  for (const auto& each : cases) {
+    const EntryPlace place = DigestPlaces(files, "/p").place(each.name);
+    EXPECT_EQ(place.stem, each.stem) << each.name;
+    EXPECT_EQ(place.run, each.run) << each.name;
+    EXPECT_EQ(place.ofInstance, each.ofInstance) << each.name;
+  }
+  for (const char* name : {"", ".", "..", "../x", "x/", "x/.", "/x", "a/../b"}) {
+    EXPECT_EQ(DigestPlaces(files, "/p").place(name).stem, "") << name;
+  }
 }
 
 TEST(DigestPlaces, neverLieOutsideOfTheProject) {

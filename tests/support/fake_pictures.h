@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "graphics/picture_maker.h"
+#include "platform/printer.h"
 
 namespace kestra {
 
@@ -25,6 +26,16 @@ struct FakePictures : PictureMaker {
   };
   Fixed fixed;
   bool fails = false;
+};
+
+struct FakePrinter : Printer {
+  Status print(const std::string& pdf, const PrintChoice& choice) override {
+    printed += pdf + ", copies " + std::to_string(choice.copies);
+    if (jammed) return Failure{FailureKind::other, "lp", "paper jam"};
+    return Done();
+  }
+  std::string printed;
+  bool jammed = false;
 };
 
 }  // namespace kestra

@@ -1,0 +1,35 @@
+#include "app/run_keeping.h"
+
+#include "run/checked_directory.h"
+#include "run/old_run_files.h"
+
+namespace kestra {
+
+void RunKeeping::deleteRuns(const std::vector<std::string>& stems) {
+  deleteFilesOfStems(ports_.files, stems);
+}
+
+std::string RunKeeping::checkedDirectory(const std::string& path) {
+  return kestra::checkedDirectory(ports_, path);
+}
+
+void RunKeeping::showText(const std::string& path) {
+  if (onText) return onText(path);
+  ports_.boxes.tell("View Text",
+                    path + " cannot be shown: the part of Kestra B that shows texts is missing.", BoxIcon::warning);
+}
+
+void RunKeeping::showGraphs(const std::string& path, bool ofInstance) {
+  shell_.graphs.output.OpenFile(path, ofInstance);
+}
+
+void RunKeeping::showPreview(const std::string& title, const CanvasLog& drawing) {
+  shell_.graphs.preview.showGraph(title, drawing);
+}
+
+void RunKeeping::forgetShown() {
+  if (onText) onText({});
+  shell_.graphs.output.forgetFile();
+}
+
+}  // namespace kestra

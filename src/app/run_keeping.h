@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/shell.h"
+#include "summary/summary_context.h"
+
+namespace kestra {
+
+// The files of runs as the summary deletes them, and the windows in which it shows them.
+class RunKeeping : public RunKeeper {
+ public:
+  RunKeeping(Ports& ports, Shell& shell) : ports_(ports), shell_(shell) {}
+
+  void deleteRuns(const std::vector<std::string>& stems) override;
+  std::string checkedDirectory(const std::string& path) override;
+  void showText(const std::string& path) override;
+  void showGraphs(const std::string& path, bool ofInstance) override;
+  void showPreview(const std::string& title, const CanvasLog& drawing) override;
+  void forgetShown() override;
+
+  // Set where a window shows texts: shows a file, or, for an empty path, none any more.
+  std::function<void(const std::string& path)> onText;
+
+ private:
+  Ports& ports_;
+  Shell& shell_;
+};
+
+}  // namespace kestra

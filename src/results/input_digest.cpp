@@ -1,0 +1,63 @@
+#include "results/input_digest.h"
+
+#include "base/lines.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "platform/files.h"
+#include "results/result_files.h"
+
+namespace kestra {
+namespace {
+
+std::string hexadecimal(std::uint64_t value) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string text;
+  for (int shift = 60; shift >= 0; shift -= 4) text += kDigits[value >> shift & 0xFU];
+  return text;
+}
+
+}  // namespace
+
+std::uint64_t inputDigest(std::string_view controlFileText) {
+  constexpr std::uint64_t kStart = 14695981039346656037U;
+  constexpr std::uint64_t kPrime = 1099511628211U;
+  constexpr std::string_view kDate = "MODIFIED";
+  std::uint64_t hash = kStart;
+  const auto add = [&hash](char byte) { hash = (hash ^ static_cast<unsigned char>(byte)) * kPrime; };
+  LineReader lines(controlFileText);
+  std::string_view line;
+  while (lines.next(line)) {
+    if (line.starts_with(kDate)) continue;
+    for (const char byte : line) add(byte);
+    add('\n');
+  }
+  return hash;
+}
+
+std::string inputDigestFile(std::string_view controlFile) {
+  const std::string_view name = ParsePathName(controlFile);
+  const std::string stem(name.substr(0, name.rfind('.')));
+  return joinPath(joinPath(directoryOf(controlFile), ".kestra"), stem + ".input");
+}
+
+Status keepInputDigest(FileSystem& files, const std::string& controlFile) {
+  const std::string path = inputDigestFile(controlFile);
+  const auto text = readResultFile(files, controlFile);
+  Status kept = text ? makeDirectories(files, std::string(directoryOf(path))) : Status(text.failure());
+  if (kept) kept = writeWholeFile(files, path, hexadecimal(inputDigest(text.value())) + "\r\n");
+  if (!kept) dropInputDigest(files, controlFile);
+  return kept;
+}
+
+void dropInputDigest(FileSystem& files, const std::string& controlFile) {
+  (void)files.removeFile(inputDigestFile(controlFile));
+}
+
+bool inputHasChanged(FileSystem& files, const std::string& controlFile) {
+  const auto kept = files.read(inputDigestFile(controlFile), kReadLimit);
+  if (!kept) return false;
+  const auto text = readResultFile(files, controlFile);
+  return !text || std::string_view(kept.value()).substr(0, 16) != hexadecimal(inputDigest(text.value()));
+}
+
+}  // namespace kestra
