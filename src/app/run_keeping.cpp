@@ -15,8 +15,8 @@ std::string RunKeeping::checkedDirectory(const std::string& path) {
 
 void RunKeeping::showText(const std::string& path) {
   if (onText) return onText(path);
-  ports_.boxes.tell("View Text",
-                    path + " cannot be shown: the part of Kestra B that shows texts is missing.", BoxIcon::warning);
+  ports_.boxes.tell("View Text", path + " cannot be shown: the part of Kestra B that shows texts is missing.",
+                    BoxIcon::warning);
 }
 
 void RunKeeping::showGraphs(const std::string& path, bool ofInstance) {
@@ -25,6 +25,10 @@ void RunKeeping::showGraphs(const std::string& path, bool ofInstance) {
 
 void RunKeeping::showPreview(const std::string& title, const CanvasLog& drawing) {
   shell_.graphs.preview.showGraph(title, drawing);
+}
+
+bool RunKeeping::screensDiffer(const std::string& controlFile) {
+  return shell_.runInputs.screensDiffer(controlFile);
 }
 
 void RunKeeping::forgetShown() {

@@ -19,6 +19,7 @@ class RunKeeping : public RunKeeper {
   void showText(const std::string& path) override;
   void showGraphs(const std::string& path, bool ofInstance) override;
   void showPreview(const std::string& title, const CanvasLog& drawing) override;
+  bool screensDiffer(const std::string& controlFile) override;
   void forgetShown() override;
 
   // Set where a window shows texts: shows a file, or, for an empty path, none any more.

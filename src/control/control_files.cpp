@@ -207,11 +207,16 @@ std::string ControlFiles::readCompanion(const std::string& fileName) {
   return companion ? companion.value() : std::string();
 }
 
-std::optional<ControlSnapshot> ControlFiles::snapshot(const std::string& fileName) {
+std::optional<std::string> ControlFiles::builtText(const std::string& fileName) {
   if (BuildControlText(fileName) != -1) return std::nullopt;
-  const std::string whole = wholeText();
-  auto companion = composeCompanion(screens_, context_, texts, whole, ParsePathName(fileName));
-  return ControlSnapshot{whole, std::move(companion).value_or("")};
+  return wholeText();
+}
+
+std::optional<ControlSnapshot> ControlFiles::snapshot(const std::string& fileName) {
+  const auto whole = builtText(fileName);
+  if (!whole) return std::nullopt;
+  auto companion = composeCompanion(screens_, context_, texts, *whole, ParsePathName(fileName));
+  return ControlSnapshot{*whole, std::move(companion).value_or("")};
 }
 
 std::optional<ControlSnapshot> ControlFiles::savedSnapshot(const std::string& fileName) {

@@ -52,7 +52,9 @@ class ControlFiles {
   // it is. A file that cannot be taken in is told in a box and changes nothing. A fault on the way (a table with more
   // rows than its screen has) is told in a box with file, line and record; the screens stay as far as they were filled.
   void ReadControlFile(const std::string& fileName);
-  // What a save under this name would write; nothing where it would fail. No file is touched.
+  // The control file that a save under this name would write; nothing where it would fail. No file is touched.
+  std::optional<std::string> builtText(const std::string& fileName);
+  // The same with its companion; nothing where it would fail.
   std::optional<ControlSnapshot> snapshot(const std::string& fileName);
   // What is saved under this name; nothing where the control file is not there.
   std::optional<ControlSnapshot> savedSnapshot(const std::string& fileName);

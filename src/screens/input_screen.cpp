@@ -24,7 +24,7 @@ InputScreen::InputScreen(InputContext& context, std::string name, std::string ti
 }
 
 void InputScreen::followHistory() {
-  context_.base.state.noteEdit();
+  context_.base.host.tellEdited(*this, mnuUndo);
   undone();
 }
 

@@ -11,11 +11,6 @@ namespace {
 
 constexpr const char* kTitle = "Unsaved Input";
 
-Ports quietPorts(const Ports& ports, MessageBoxes& boxes) {
-  return {boxes,        ports.dialogs, ports.settings, ports.clipboard, ports.processes, ports.files,
-          ports.events, ports.beeper,  ports.entropy,  ports.clock,     ports.help};
-}
-
 std::string question(const std::string& name) {
   return "A program that ended without saving has left input for " + (name.empty() ? "a new file" : name) +
          " behind. Do you want it back?\r\n\r\nYes puts it on the screens, where you can look at it before you save. "
@@ -24,12 +19,7 @@ std::string question(const std::string& name) {
 
 }  // namespace
 
-Autosave::Autosave(FileDesk& desk, OpenFile& file)
-    : desk_(desk),
-      file_(file),
-      ports_(quietPorts(desk.context.ports, boxes_)),
-      quiet_{ports_, desk.state(), desk.context.host},
-      snapshots_(desk.input, quiet_) {
+Autosave::Autosave(FileDesk& desk, OpenFile& file) : desk_(desk), file_(file), control_(desk) {
   file_.onPutAway = [this] {
     letGo();
     mayOffer_ = true;
@@ -51,7 +41,7 @@ void Autosave::keep() {
     since_.reset();
     return;
   }
-  const std::int64_t now = ports_.clock.steadyNs();
+  const std::int64_t now = desk_.context.ports.clock.steadyNs();
   if (!since_) since_ = now;
   if (now - *since_ >= *delay_) keepNow();
 }
@@ -60,10 +50,10 @@ void Autosave::keepNow() {
   const ApplicationState& state = desk_.state();
   since_.reset();
   keptEdits_ = state.edits;
-  auto input = snapshots_.snapshot(state.currentFile);
+  auto input = control_->snapshot(state.currentFile);
   if (!input) return;
   if (number_ == 0) number_ = freeNumber();
-  const Status kept = writeUnsavedInput(ports_.files, state.projectDir, number_, {nameInProject(), *std::move(input)});
+  const Status kept = writeUnsavedInput(desk_.files(), state.projectDir, number_, {nameInProject(), *std::move(input)});
   trouble_ = kept ? "" : kept.failure().path + ": " + kept.failure().reason;
 }
 
@@ -76,12 +66,12 @@ std::string Autosave::nameInProject() const {
 
 // Above all that are there, so that the newest is known by its number whatever the clock has said.
 std::uint64_t Autosave::freeNumber() const {
-  const auto numbers = unsavedInputNumbers(ports_.files, desk_.state().projectDir);
+  const auto numbers = unsavedInputNumbers(desk_.files(), desk_.state().projectDir);
   return numbers.empty() ? 1 : numbers.front() + 1;
 }
 
 void Autosave::remove(std::uint64_t number) {
-  (void)ports_.files.removeFile(unsavedInputFile(desk_.state().projectDir, number));
+  (void)desk_.files().removeFile(unsavedInputFile(desk_.state().projectDir, number));
 }
 
 void Autosave::letGo() {
@@ -95,8 +85,8 @@ void Autosave::saved(const std::string& path) {
   letGo();
   const std::string& project = desk_.state().projectDir;
   if (directoryOf(path) != project) return;
-  for (const std::uint64_t number : unsavedInputNumbers(ports_.files, project)) {
-    const auto kept = readUnsavedInput(ports_.files, project, number);
+  for (const std::uint64_t number : unsavedInputNumbers(desk_.files(), project)) {
+    const auto kept = readUnsavedInput(desk_.files(), project, number);
     if (kept && kept->name == ParsePathName(path)) remove(number);
   }
 }
@@ -109,7 +99,7 @@ void Autosave::projectOpened() {
 
 bool Autosave::isSaved(const UnsavedInput& kept) {
   if (kept.name.empty()) return false;
-  return snapshots_.savedSnapshot(joinPath(desk_.state().projectDir, kept.name)) == kept.input;
+  return control_->savedSnapshot(joinPath(desk_.state().projectDir, kept.name)) == kept.input;
 }
 
 void Autosave::offer() {
@@ -121,8 +111,8 @@ void Autosave::offer() {
   if (state.fileIsNew) return;
   offering_ = true;
   const std::string open = nameInProject();
-  for (const std::uint64_t number : unsavedInputNumbers(ports_.files, state.projectDir)) {
-    auto kept = readUnsavedInput(ports_.files, state.projectDir, number);
+  for (const std::uint64_t number : unsavedInputNumbers(desk_.files(), state.projectDir)) {
+    auto kept = readUnsavedInput(desk_.files(), state.projectDir, number);
     if (!kept || (state.fileHasName && kept->name != open)) continue;
     if (offerOne({number, *std::move(kept)})) break;
   }

@@ -7,6 +7,7 @@
 
 #include "control/unsaved_input.h"
 #include "shell/open_file.h"
+#include "shell/quiet_control_files.h"
 
 namespace kestra {
 
@@ -53,10 +54,7 @@ class Autosave {
 
   FileDesk& desk_;
   OpenFile& file_;
-  SilentMessageBoxes boxes_;
-  Ports ports_;
-  ScreenContext quiet_;
-  ControlFiles snapshots_;  // so that the texts of the commands stay as they were built
+  QuietControlFiles control_;
 
   std::optional<std::int64_t> delay_;  // nanoseconds; nothing: off
   std::uint64_t number_ = 0;           // of the file that this program keeps; 0: none

@@ -20,7 +20,8 @@ struct FileDesk {
   frmKestra& window;
   frmOutput& output;
   frmProgress& progress;
-  FileRuns* runs = nullptr;  // null: nothing here can start a run
+  FileRuns* runs = nullptr;           // null: nothing here can start a run
+  std::function<void()> onFile = {};  // another file is open, or the open one was written
 
   ApplicationState& state() const { return context.state; }
   MessageBoxes& boxes() const { return context.ports.boxes; }

@@ -22,6 +22,7 @@ void OpenFile::begin() {
   witness_.forget();
   setInitialValues();
   desk_.window.setTitle("Kestra B - Input Interface (New File)");
+  if (desk_.onFile) desk_.onFile();
 }
 
 void OpenFile::setInitialValues() {
@@ -84,6 +85,7 @@ void OpenFile::takeUnsaved(const std::string& name, const ControlSnapshot& input
     takeAs(path, [&] { fill(path); });
   }
   desk_.state().noteEdit();
+  if (desk_.onFile) desk_.onFile();
 }
 
 void OpenFile::takeAs(const std::string& path, const std::function<void()>& fill) {
@@ -100,6 +102,7 @@ void OpenFile::takeAs(const std::string& path, const std::function<void()>& fill
   desk_.window.takeFile(path);
   if (UndoHistory* history = desk_.context.host.history()) history->clear();
   takeJob();
+  if (desk_.onFile) desk_.onFile();
 }
 
 // On a copy, so that the main run stays as it was read.
@@ -139,6 +142,7 @@ void OpenFile::becomeSaved(const std::string& path) {
   witness_.remember(path);
   desk_.window.setTitle("Kestra B [ " + path + " ]");
   if (onSaved) onSaved(path);
+  if (desk_.onFile) desk_.onFile();
 }
 
 }  // namespace kestra

@@ -32,6 +32,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress},
       commands(fileDesk, projects, applicationDirectory),
       autosave(fileDesk, commands.file),
+      runInputs(fileDesk),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
       graphs(context, lines),
@@ -55,6 +56,7 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     };
   }
   topScreen.onEnd = [this] { end(); };
+  graphs.context.inputChanged = [this](const std::string& controlFile) { return runInputs.changed(controlFile); };
   projects.onLeaving = [this] { autosave.letGo(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);

@@ -14,6 +14,7 @@
 #include "shell/frm_top_screen.h"
 #include "shell/project_screens.h"
 #include "shell/projects.h"
+#include "shell/run_inputs.h"
 #include "shell/window_commands.h"
 #include "summary/summary_fields.h"
 
@@ -38,6 +39,7 @@ class Shell {
   FileDesk fileDesk;
   WindowCommands commands;  // of the input window
   Autosave autosave;
+  RunInputs runInputs;
   TextScreen about;
   TextScreen disclaimer;
 

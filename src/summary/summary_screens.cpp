@@ -16,7 +16,8 @@ SummaryScreens::SummaryScreens(PictureDesk& desk, const LineSettings& lines, Sum
     context.host().show(table);
   };
   auxTable.onDeleted = [this] { followStore(); };
-  for (SummaryTableScreen* each : {static_cast<SummaryTableScreen*>(&table), static_cast<SummaryTableScreen*>(&auxTable)}) {
+  for (SummaryTableScreen* each :
+       {static_cast<SummaryTableScreen*>(&table), static_cast<SummaryTableScreen*>(&auxTable)}) {
     each->onSummaryGraphs = [this, each] { select(*each); };
     each->onAllDeleted = [this] { graphics.forgetGraph(); };
   }
@@ -39,6 +40,12 @@ void SummaryScreens::closeAll() {
 
 void SummaryScreens::followStore() {
   if (table.loaded()) table.BuildTable();
+}
+
+void SummaryScreens::followInputs() {
+  for (SummaryTableScreen* each : std::initializer_list<SummaryTableScreen*>{&table, &auxTable}) {
+    if (each->loaded()) each->followInputs();
+  }
 }
 
 void SummaryScreens::viewSpillway(const std::string& folder, int spillway) {

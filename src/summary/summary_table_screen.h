@@ -11,9 +11,9 @@
 
 namespace kestra {
 
-// A table of runs: one of a project, or one of the instances of a spillway. A run of several instances is condensed into
-// three rows. The grids hold an entry a row or, with summaryOrder "2", a column; the first of it is its name. Rows are
-// selected in metaSum. On an empty table no command does anything.
+// A table of runs: one of a project, or one of the instances of a spillway. A run of several instances is condensed
+// into three rows. The grids hold an entry a row or, with summaryOrder "2", a column; the first of it is its name. Rows
+// are selected in metaSum. On an empty table no command does anything.
 class SummaryTableScreen : public Screen {
  public:
   SummaryTableScreen(SummaryContext& context, std::string name, std::string title, std::string header);
@@ -51,6 +51,7 @@ class SummaryTableScreen : public Screen {
   // Adds the rows of entries `first` to `last`, from 1, to those of the table; a last of 0: of the first alone. A fault
   // outside of the entries.
   void StoreValues(std::size_t first, std::size_t last);
+  void followInputs();  // tells anew whose input has changed
   // Works out which text and which graphs the selected row leads to; empty without one.
   void GetFileToOpen();
 
@@ -58,7 +59,7 @@ class SummaryTableScreen : public Screen {
   ShownRows everyEntry();        // a row for each entry
 
   virtual EntryList& entries() = 0;
-  const ShownRows& shownRows() const { return shown_; }       // the list, condensed
+  const ShownRows& shownRows() const { return shown_; }  // the list, condensed
   const ShownRows& rowsOnShow() const { return allOnShow_ ? all_ : shown_; }
   std::size_t allInstancesCount() const { return all_.size(); }
   const std::string& textFile() const { return textFile_; }

@@ -16,13 +16,11 @@ using Texts = std::vector<std::string>;
 TEST_F(SummaryTables, showARowForADamAndThreeForARun) {
   putSamples();
   open();
-  EXPECT_EQ(rowsOf(table.metaSum),
-            (Texts{"Name|Type|Input", "dam|Single Instance|", "dam1_1|Max.|", "dam1_0|Min.|", "dam1_3|Mean|",
-                   "pond|Single Instance|"}));
-  EXPECT_EQ(rowsOf(table.sumTable),
-            (Texts{"Name|Stress", "dam|", "dam1_1|0.2", "dam1_0|0.1", "dam1_3|0.4", "pond|"}));
-  EXPECT_EQ(rowsOf(table.damSum), (Texts{"Name|Peak", "dam|150.5", "dam1_1|150.5", "dam1_0|150.5", "dam1_3|150.5",
-                                         "pond|80"}));
+  EXPECT_EQ(rowsOf(table.metaSum), (Texts{"Name|Type|Input", "dam|Single Instance|", "dam1_1|Max.|", "dam1_0|Min.|",
+                                          "dam1_3|Mean|", "pond|Single Instance|"}));
+  EXPECT_EQ(rowsOf(table.sumTable), (Texts{"Name|Stress", "dam|", "dam1_1|0.2", "dam1_0|0.1", "dam1_3|0.4", "pond|"}));
+  EXPECT_EQ(rowsOf(table.damSum),
+            (Texts{"Name|Peak", "dam|150.5", "dam1_1|150.5", "dam1_0|150.5", "dam1_3|150.5", "pond|80"}));
   EXPECT_EQ(table.metaSum.fontName(), "Courier New");
   EXPECT_TRUE(state.window(2));
 }
@@ -71,8 +69,7 @@ TEST_F(SummaryTables, leadToTheTextAndTheGraphsOfARow) {
   table.mnuGraph.click();
   select(table, 2);
   table.cmdGraph.click();
-  EXPECT_EQ(keeper.takeCalls(),
-            (Texts{"text /p/dam.OUT", "graphs /p/dam.KSC", "spillway graphs /p/dam/dam1_1.V2D"}));
+  EXPECT_EQ(keeper.takeCalls(), (Texts{"text /p/dam.OUT", "graphs /p/dam.KSC", "spillway graphs /p/dam/dam1_1.V2D"}));
 }
 
 TEST_F(SummaryTables, deleteACondensedRowWithAllInstances) {
@@ -85,8 +82,8 @@ TEST_F(SummaryTables, deleteACondensedRowWithAllInstances) {
                                "files?"});
   EXPECT_EQ(store.entries().size(), 6U);
   table.mnuDelete.click();
-  EXPECT_EQ(keeper.takeCalls(), (Texts{"delete /p/dam/dam1_0", "delete /p/dam/dam1_1", "delete /p/dam/dam1_2",
-                                       "delete /p/dam/dam1_3"}));
+  EXPECT_EQ(keeper.takeCalls(),
+            (Texts{"delete /p/dam/dam1_0", "delete /p/dam/dam1_1", "delete /p/dam/dam1_2", "delete /p/dam/dam1_3"}));
   EXPECT_EQ(files.content("/p/SUMMARY.IDE"), "1\r\n3\r\n1\r\n2\r\n\"dam\"\r\n\"pond\"\r\n");
   EXPECT_EQ(table.metaSum.rows(), 3);
 }
@@ -142,8 +139,13 @@ TEST_F(SummaryTables, sayWhereTheInputHasChangedSinceTheRun) {
   (void)keepInputDigest(files, "/p/dam.KSC");
   files.put("/p/dam.KSC", "KESTRA\nHYD\n");
   open();
-  EXPECT_EQ(rowsOf(table.metaSum), (Texts{"Name|Type|Input", "dam|Single Instance|input changed since this run",
-                                          "pond|Single Instance|"}));
+  EXPECT_EQ(rowsOf(table.metaSum),
+            (Texts{"Name|Type|Input", "dam|Single Instance|input changed since this run", "pond|Single Instance|"}));
+  files.put("/p/dam.KSC", "KESTRA\n");
+  keeper.edited = "/p/pond.KSC";
+  screens.followInputs();
+  EXPECT_EQ(rowsOf(table.metaSum),
+            (Texts{"Name|Type|Input", "dam|Single Instance|", "pond|Single Instance|input changed since this run"}));
 }
 
 TEST_F(SummaryTables, ofASpillwayShowTheDigestsOnDisk) {
@@ -158,8 +160,8 @@ TEST_F(SummaryTables, ofASpillwayShowTheDigestsOnDisk) {
   EXPECT_EQ(aux.lbl_Header.caption(), "Summary Table - Aux. Spillway, One Run - All Instances");
   EXPECT_EQ(rowsOf(aux.metaSum), (Texts{"Name|Type|Input", "dam1_1|Max.|", "dam1_10|Min.|", "dam1_3|Mean|"}));
   aux.cmdViewAll.click();
-  EXPECT_EQ(rowsOf(aux.sumTable), (Texts{"Name|Stress", "dam1_0|0.1", "dam1_1|0.2", "dam1_2|0.3", "dam1_3|0.4",
-                                         "dam1_10|0.9"}));
+  EXPECT_EQ(rowsOf(aux.sumTable),
+            (Texts{"Name|Stress", "dam1_0|0.1", "dam1_1|0.2", "dam1_2|0.3", "dam1_3|0.4", "dam1_10|0.9"}));
   EXPECT_EQ(aux.find("damSum"), nullptr);
   aux.cmdViewDam.click();
   EXPECT_EQ(front(), "frmSummaryTable");
