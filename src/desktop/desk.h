@@ -44,6 +44,7 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   QMdiSubWindow& windowOf(Screen& screen);
   void followMenus();
   void followTitle(Screen& screen);
+  void keepInput();  // that is not saved; and, when no command is under way, offers what was left behind
   void keepPlace();
   void restorePlace();
 
@@ -59,6 +60,7 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   int depth_ = 0;  // of user actions within each other
   QTimer late_;
   QTimer focusLate_;
+  QTimer keeping_;
 };
 
 }  // namespace kestra

@@ -102,8 +102,13 @@ bool Autosave::isSaved(const UnsavedInput& kept) {
   return control_->savedSnapshot(joinPath(desk_.state().projectDir, kept.name)) == kept.input;
 }
 
+bool Autosave::mayAsk() const {
+  const bool hasTrouble = !trouble_.empty() && !troubleTold_;
+  return working() && !offering_ && (hasTrouble || (mayOffer_ && !desk_.state().fileDirty));
+}
+
 void Autosave::offer() {
-  if (offering_ || !working()) return;
+  if (!mayAsk()) return;
   tellTrouble();
   const ApplicationState& state = desk_.state();
   if (!mayOffer_ || state.fileDirty) return;

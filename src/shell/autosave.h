@@ -31,6 +31,8 @@ class Autosave {
   // kept. What is wanted back is put on the screens and counts as not saved.
   void offer();
 
+  bool mayAsk() const;  // offer() may have something to say
+
   void projectOpened();
   void letGo();  // the input is being given up, or the program ends: nothing of it stays behind
 
