@@ -47,6 +47,9 @@ class Screen {
   bool loaded() const { return loaded_; }
   bool visible() const { return visible_; }
 
+  // The user has given its window another size, in twips.
+  virtual void Form_Resize(int width, int height) { (void)width, (void)height; }
+
   // Whether looking at a control loads the screen. False where loading changes more than the screen itself.
   virtual bool loadsWhenRead() const { return true; }
 

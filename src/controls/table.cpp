@@ -71,6 +71,12 @@ void Table::setCell(int row, int column, std::string text) {
   if (cell == text) return;
   if (UndoHistory* kept = history()) kept->keepCell(*this, index, cell);
   cell = std::move(text);
+  if (fault_ && fault_->at == CellPosition{row, column}) fault_.reset();
+  changed(Property::cells);
+}
+
+void Table::setFault(CellPosition at, std::string message) {
+  fault_ = {at, std::move(message)};
   changed(Property::cells);
 }
 
@@ -145,6 +151,7 @@ void Table::restoreDesign() {
   Control::restoreDesign();
   if (size_.columns != design_.columns || cells_.size() < designCells_.size()) become(design_, {});
   size_ = design_;
+  fault_.reset();
   std::fill(std::copy(designCells_.begin(), designCells_.end(), cells_.begin()), cells_.end(), std::string());
   changed(Property::cells);
   setCursor({size_.fixedRows, size_.fixedColumns});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,6 +15,12 @@ struct CellPosition {
   int row = 0;
   int column = 0;
   bool operator==(const CellPosition&) const = default;
+};
+
+// A cell whose text was refused, and why.
+struct CellFault {
+  CellPosition at;
+  std::string message;
 };
 
 // A table of texts, its first rows and columns being headings. Rows and columns count from 0, the headings included. A
@@ -72,6 +79,10 @@ class Table : public Control {
   const std::string& fontName() const { return fontName_; }
   void setFontName(std::string name) { fontName_ = std::move(name); }
 
+  // The cell at fault is marked until its text changes.
+  void setFault(CellPosition at, std::string message);
+  const std::optional<CellFault>& fault() const { return fault_; }
+
   void userSetBlock(CellPosition at, const std::vector<std::vector<std::string>>& texts);  // one edit
   void userEdited();                                    // the user has changed cells in some other way
   void userSelect(CellPosition from, CellPosition to);  // by mouse or arrow keys
@@ -104,6 +115,7 @@ class Table : public Control {
   std::string fontName_;
   CellPosition cursor_;
   CellPosition corner_;
+  std::optional<CellFault> fault_;
 };
 
 }  // namespace kestra

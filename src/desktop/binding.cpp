@@ -220,6 +220,7 @@ std::unique_ptr<Binding> bindWidget(Control& control, QWidget& widget, const Use
     case ControlKind::gauge:
       return join<GaugeBinding, Range, QProgressBar>(control, widget, act);
     case ControlKind::text:
+      if (auto readOut = bindReadOut(control, widget, act)) return readOut;
       return bindTextBox(control, widget, act);
     case ControlKind::table:
       return bindTable(control, widget, act);

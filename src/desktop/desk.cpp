@@ -8,7 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScreen>
-#include <QSettings>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "desktop/qt_text.h"
@@ -26,6 +26,7 @@ constexpr const char* kWindowSection = "Window";
 Desk::Desk(Application& application) : application_(application), area_(new QMdiArea(this)) {
   setObjectName(QStringLiteral("desk"));
   setCentralWidget(area_);
+  setWindowIcon(QIcon(QStringLiteral(":/pictures/dam.svg")));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   late_.setSingleShot(true);
@@ -38,12 +39,17 @@ Desk::Desk(Application& application) : application_(application), area_(new QMdi
   connect(&focusLate_, &QTimer::timeout, this, [this] { act([] {}); });
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { takeFocusChange(now); });
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) { takeActivation(window); });
+  auto* const help = new QShortcut(QKeySequence::HelpContents, this);
+  help->setContext(Qt::ApplicationShortcut);
+  connect(help, &QShortcut::activated, this, [this] { showHelp(); });
   application_.host.setModalLoop(this);
+  application_.host.onArrange = [this](WindowArrangement arrangement) { arrangeWindows(arrangement); };
   for (Screen* screen : application_.host.screens()) screen->addObserver(*this);
 }
 
 Desk::~Desk() {
   application_.host.setModalLoop(nullptr);
+  application_.host.onArrange = nullptr;
   for (Screen* screen : application_.host.screens()) screen->removeObserver(*this);
   disconnect(qApp, nullptr, this, nullptr);
   disconnect(area_, nullptr, this, nullptr);
@@ -104,6 +110,7 @@ void Desk::closeEvent(QCloseEvent* event) {
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Close) return QMainWindow::eventFilter(watched, event);
   Screen* screen = watched == dialog_ ? modal_ : nullptr;
+  if (watched == progress_) screen = &application_.shell.progress;
   for (const auto& [shownScreen, window] : windows_)
     if (watched == window) screen = shownScreen;
   if (screen == nullptr) return false;
@@ -166,16 +173,51 @@ void Desk::arrange() {
   late_.stop();
   const bool outer = std::exchange(arranging_, true);
   for (Screen* screen : application_.host.screens()) {
-    if (screen != &application_.shell.topScreen && screen != modal_) place(*screen);
+    if (!standsApart(*screen)) place(*screen);
   }
+  placeProgress();
   followTitle(application_.shell.topScreen);
   const std::vector<Screen*>& front = application_.host.shown();
-  if (!front.empty() && front.front() != &application_.shell.topScreen && front.front() != modal_) {
+  if (!front.empty() && !standsApart(*front.front())) {
     QMdiSubWindow& window = windowOf(*front.front());
     if (area_->activeSubWindow() != &window) area_->setActiveSubWindow(&window);
   }
   followMenus();
   arranging_ = outer;
+}
+
+// The frame itself, and screens that stand above it in windows of their own.
+bool Desk::standsApart(const Screen& screen) const {
+  return &screen == &application_.shell.topScreen || &screen == &application_.shell.progress || &screen == modal_;
+}
+
+// While a command runs nothing else can be reached: its window is modal, but nobody waits for it to close.
+void Desk::placeProgress() {
+  frmProgress& screen = application_.shell.progress;
+  if (!screen.visible()) {
+    if (progress_ != nullptr) progress_->hide();
+    return;
+  }
+  if (progress_ == nullptr) {
+    progress_ = new QDialog(this);
+    progress_->setModal(true);
+    progress_->installEventFilter(this);
+    auto* const layout = new QVBoxLayout(progress_);
+    layout->addWidget(&viewOf(screen));
+    viewOf(screen).show();
+  }
+  progress_->setWindowTitle(shown(screen.title()));
+  progress_->show();
+}
+
+void Desk::showHelp() {
+  const std::vector<Screen*>& front = application_.host.shown();
+  auto* const button = front.empty() ? nullptr : dynamic_cast<Button*>(front.front()->find("cmdHelp"));
+  act([this, button] { button != nullptr ? button->click() : application_.ports.help.showTopic({}); });
+}
+
+void Desk::arrangeWindows(WindowArrangement arrangement) {
+  arrangement == WindowArrangement::cascade ? area_->cascadeSubWindows() : area_->tileSubWindows();
 }
 
 void Desk::place(Screen& screen) {
@@ -217,8 +259,9 @@ void Desk::followMenus() {
   };
   take(viewOf(application_.shell.topScreen).menus());
   const std::vector<Screen*>& front = application_.host.shown();
-  if (!front.empty() && front.front() != &application_.shell.topScreen && front.front() != modal_)
-    take(viewOf(*front.front()).menus());
+  const bool ofProject = !front.empty() && !standsApart(*front.front());
+  QMenuBar* const own = ofProject ? viewOf(*front.front()).menus() : nullptr;
+  take(own != nullptr || !ofProject ? own : viewOf(application_.shell.inputWindow).menus());
   if (bar->actions() == entries) return;
   for (QAction* entry : bar->actions()) bar->removeAction(entry);
   bar->addActions(entries);
@@ -250,7 +293,9 @@ void Desk::restorePlace() {
   const auto kept = application_.ports.settings.get(kWindowSection, "geometry", {});
   if (!kept.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(kept)));
   const QRect space = screen()->availableGeometry();
-  if (!space.contains(geometry().center())) move(space.topLeft());
+  resize(size().boundedTo(space.size()));
+  const auto within = [](int at, int least, int most) { return std::max(least, std::min(at, most)); };
+  move(within(x(), space.left(), space.right() + 1 - width()), within(y(), space.top(), space.bottom() + 1 - height()));
 }
 
 }  // namespace kestra

@@ -41,10 +41,14 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   void takeActivation(const QMdiSubWindow* window);  // the user has brought a window to the front
   void arrange();                                    // windows as the screens are
   void place(Screen& screen);
+  bool standsApart(const Screen& screen) const;
   QMdiSubWindow& windowOf(Screen& screen);
   void followMenus();
+  void arrangeWindows(WindowArrangement arrangement);
   void followTitle(Screen& screen);
   void keepInput();  // that is not saved; and, when no command is under way, offers what was left behind
+  void placeProgress();
+  void showHelp();  // the topic of the screen in front
   void keepPlace();
   void restorePlace();
 
@@ -54,6 +58,7 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   std::unordered_map<Screen*, QPointer<QMdiSubWindow>> windows_;
   Screen* modal_ = nullptr;
   QPointer<QDialog> dialog_;
+  QPointer<QDialog> progress_;
   Control* current_ = nullptr;  // whose widget has the focus
   Control* wanted_ = nullptr;   // whose widget has got it; its checks and those of `current_` wait
   bool arranging_ = false;

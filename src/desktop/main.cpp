@@ -13,6 +13,8 @@ int main(int argc, char** argv) {
   const kestra::DeskOptions options = kestra::deskOptions(toolkit);
   kestra::QtDesk desk(options);
   kestra::Application application(desk.ports(), desk.applicationDirectory());
+  application.shell.graphs.context.pictures = &desk.pictures();
+  application.shell.graphs.context.printer = &desk.printer();
   kestra::Desk window(application);
   window.start(options.controlFile);
   if (application.shell.ended()) return 1;

@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "desktop/help_window.h"
 #include "desktop/qt_text.h"
+#include "platform/files.h"
 #include "platform/native/executable_directory.h"
 #include "platform/native/user_directories.h"
 
@@ -41,6 +42,11 @@ DeskOptions deskOptions(const QCoreApplication& toolkit) {
 
 void QtHelpViewer::showTopic(const std::string& topic) {
   showHelp(shown(topic));
+}
+
+Status DeskPrinter::print(const std::string& pdf, const PrintChoice& choice) {
+  if (choice.device.find('/') != std::string::npos) return writeWholeFile(files_, choice.device, pdf);
+  return spool_.print(pdf, choice);
 }
 
 QtDesk::QtDesk(const DeskOptions& options)

@@ -9,6 +9,8 @@
 #include "platform/native/posix_process_host.h"
 #include "platform/native/system_ports.h"
 #include "platform/ports.h"
+#include "platform/printer.h"
+#include "render/qt_pictures.h"
 
 class QCoreApplication;
 
@@ -29,6 +31,17 @@ class QtHelpViewer : public HelpViewer {
   void showTopic(const std::string& topic) override;
 };
 
+// Prints into a file where the user has chosen one in place of a printer.
+class DeskPrinter : public Printer {
+ public:
+  DeskPrinter(FileSystem& files, ProcessHost& processes) : files_(files), spool_(files, processes, "/tmp") {}
+  Status print(const std::string& pdf, const PrintChoice& choice) override;
+
+ private:
+  FileSystem& files_;
+  SpoolPrinter spool_;
+};
+
 // The ports of this machine for the program with windows.
 class QtDesk {
  public:
@@ -36,6 +49,8 @@ class QtDesk {
 
   Ports ports();
   const std::string& applicationDirectory() const { return applicationDirectory_; }
+  PictureMaker& pictures() { return pictures_; }
+  Printer& printer() { return printer_; }
 
  private:
   PosixFileSystem files_;
@@ -50,6 +65,8 @@ class QtDesk {
   SystemEntropy entropy_;
   SystemClock clock_;
   QtHelpViewer help_;
+  QtPictures pictures_;
+  DeskPrinter printer_{files_, processes_};
 };
 
 }  // namespace kestra

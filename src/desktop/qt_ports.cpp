@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QImage>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -127,6 +128,12 @@ std::string QtClipboard::text() {
 
 void QtClipboard::setText(const std::string& text) {
   QApplication::clipboard()->setText(shown(text));
+}
+
+void QtClipboard::setPicture(const std::string& bitmap) {
+  QImage picture;
+  if (picture.loadFromData(QByteArray(bitmap.data(), static_cast<qsizetype>(bitmap.size())), "BMP"))
+    QApplication::clipboard()->setImage(picture);
 }
 
 void QtBeeper::beep() {

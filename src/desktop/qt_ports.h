@@ -27,6 +27,7 @@ class QtClipboard : public Clipboard {
  public:
   std::string text() override;
   void setText(const std::string& text) override;
+  void setPicture(const std::string& bitmap) override;
 };
 
 class QtBeeper : public Beeper {

@@ -3,8 +3,10 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTableView>
 #include <QVBoxLayout>
 #include <QVariant>
+#include <algorithm>
 
 #include "desktop/form_loader.h"
 #include "desktop/qt_text.h"
@@ -13,6 +15,8 @@ namespace kestra {
 namespace {
 
 constexpr const char* kControlProperty = "kestraControl";
+constexpr int kTwipsPerInch = 1440;
+constexpr int kResizeMilliseconds = 20;  // between a change of size and its telling, so that a pull is told seldom
 
 }  // namespace
 
@@ -26,6 +30,10 @@ ScreenView::ScreenView(Screen& screen, UserAction act) : screen_(screen), act_(s
   layout->addWidget(form_);
   menus_ = form_->findChild<QMenuBar*>();
   bindAll();
+  giveTablesTheirMenu();
+  resized_.setSingleShot(true);
+  resized_.setInterval(kResizeMilliseconds);
+  connect(&resized_, &QTimer::timeout, this, [this] { tellSize(); });
   screen_.addObserver(*this);
 }
 
@@ -46,6 +54,33 @@ void ScreenView::controlChanged(Control& control, Property property) {
 void ScreenView::screenChanged(Screen& screen) {
   (void)screen;
   if (onScreenChanged) onScreenChanged();
+}
+
+void ScreenView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  resized_.start();
+}
+
+void ScreenView::tellSize() {
+  if (!screen_.visible()) return;
+  const int across = width() * kTwipsPerInch / logicalDpiX();
+  const int down = height() * kTwipsPerInch / logicalDpiY();
+  if (across == screen_.width() && down == screen_.height()) return;
+  act_([this, across, down] { screen_.Form_Resize(across, down); });
+}
+
+// A table's menu under the right button is the one in the bar that copies and pastes.
+void ScreenView::giveTablesTheirMenu() {
+  for (QMenu* menu : form_->findChildren<QMenu*>()) {
+    const QList<QAction*> entries = menu->actions();
+    const auto pastes = [](const QAction* entry) { return entry->objectName() == QLatin1String("mnuPaste"); };
+    if (std::none_of(entries.begin(), entries.end(), pastes)) continue;
+    for (QTableView* table : form_->findChildren<QTableView*>()) {
+      table->setContextMenuPolicy(Qt::CustomContextMenu);
+      connect(table, &QWidget::customContextMenuRequested, menu,
+              [menu, table](const QPoint& at) { menu->popup(table->viewport()->mapToGlobal(at)); });
+    }
+  }
 }
 
 void ScreenView::bindAll() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -30,13 +31,19 @@ class ScreenView : public QWidget, public ScreenObserver {
   void controlChanged(Control& control, Property property) override;
   void screenChanged(Screen& screen) override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void bindAll();
+  void giveTablesTheirMenu();
+  void tellSize();
 
   Screen& screen_;
   UserAction act_;
   QWidget* form_ = nullptr;
   QMenuBar* menus_ = nullptr;
+  QTimer resized_;
   std::unordered_map<const Control*, std::unique_ptr<Binding>> bindings_;
   std::vector<std::string> unbound_;
 };

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTableView>
 #include <QTimer>
@@ -28,6 +29,7 @@ class TableBinding : public Binding {
     view.horizontalHeader()->setVisible(table.fixedRows() > 0);
     view.verticalHeader()->setVisible(table.fixedColumns() > 0);
     view.verticalHeader()->setDefaultSectionSize(view.fontMetrics().height() + kRowMargin);
+    if (table.rows() - table.fixedRows() <= kFewRows) fitHeight();
     view.installEventFilter(this);
     late_.setSingleShot(true);
     late_.setInterval(0);
@@ -52,6 +54,15 @@ class TableBinding : public Binding {
 
  private:
   static constexpr int kRowMargin = 6;
+  static constexpr int kFewRows = 8;
+
+  // A table of few rows is as high as they are.
+  void fitHeight() {
+    const int rows = table_.rows() - table_.fixedRows();
+    const int heading = view_.horizontalHeader()->isHidden() ? 0 : view_.horizontalHeader()->sizeHint().height();
+    const int bar = view_.horizontalScrollBar()->sizeHint().height();
+    view_.setFixedHeight(heading + rows * view_.verticalHeader()->defaultSectionSize() + bar + 2 * view_.frameWidth());
+  }
 
   bool takeKey(const QKeyEvent& press) {
     if ((press.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != 0) return false;

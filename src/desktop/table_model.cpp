@@ -17,6 +17,7 @@ int TableModel::columnCount(const QModelIndex& parent) const {
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
   const CellPosition at = positionOf(index);
+  const bool faulty = table_.fault() && table_.fault()->at == at;
   switch (role) {
     case Qt::DisplayRole:
       return shown(table_.cell(at.row, at.column));
@@ -24,20 +25,40 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
       if (table_.centred(at.column)) return QVariant(Qt::AlignCenter);
       return QVariant((table_.rightAligned(at.column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::ToolTipRole:
-      return at == marked_ ? QVariant(message_) : QVariant();
+      return faulty ? QVariant(shown(table_.fault()->message)) : QVariant();
     case Qt::BackgroundRole:
-      return at == marked_ ? QVariant(QBrush(QColor(220, 60, 60, 90))) : QVariant();
+      return faulty ? QVariant(QBrush(QColor(220, 60, 60, 90))) : QVariant();
+    case Qt::AccessibleTextRole:
+      return shown(table_.cell(at.row, at.column));
     default:
       return {};
   }
 }
+
+namespace {
+
+// A long heading in lines.
+QString wrapped(const QString& heading) {
+  constexpr qsizetype kLine = 16;
+  QString lines;
+  qsizetype length = 0;
+  for (const QString& word : heading.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    const bool breaks = length > 0 && length + 1 + word.size() > kLine;
+    if (!lines.isEmpty()) lines += breaks ? QLatin1Char('\n') : QLatin1Char(' ');
+    length = (breaks || length == 0 ? 0 : length + 1) + word.size();
+    lines += word;
+  }
+  return lines;
+}
+
+}  // namespace
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole) return {};
   QStringList lines;
   if (orientation == Qt::Horizontal) {
     for (int row = 0; row < table_.fixedRows(); ++row)
-      lines.append(shown(table_.cell(row, section + table_.fixedColumns())));
+      lines.append(wrapped(shown(table_.cell(row, section + table_.fixedColumns()))));
   } else {
     for (int column = 0; column < table_.fixedColumns(); ++column)
       lines.append(shown(table_.cell(section + table_.fixedRows(), column)));
@@ -64,12 +85,6 @@ QModelIndex TableModel::indexOf(CellPosition at) const {
 
 CellPosition TableModel::positionOf(const QModelIndex& index) const {
   return {index.row() + table_.fixedRows(), index.column() + table_.fixedColumns()};
-}
-
-void TableModel::mark(CellPosition at, const QString& message) {
-  marked_ = message.isEmpty() ? CellPosition{-1, -1} : at;
-  message_ = message;
-  refresh();
 }
 
 }  // namespace kestra

@@ -21,13 +21,9 @@ class TableModel : public QAbstractTableModel {
   QModelIndex indexOf(CellPosition at) const;  // invalid for a heading
   CellPosition positionOf(const QModelIndex& index) const;
 
-  void mark(CellPosition at, const QString& message);  // the cell at fault; an empty message takes the mark away
-
  private:
   const Table& table_;
   int rows_;
-  CellPosition marked_{-1, -1};
-  QString message_;
 };
 
 }  // namespace kestra

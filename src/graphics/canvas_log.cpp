@@ -13,8 +13,15 @@ void CanvasLog::add(CanvasOp op, const std::array<double, 4>& numbers, std::stri
 
 void CanvasLog::clear(const CanvasState& start) {
   start_ = start;
+  ++wipes_;
   calls_.clear();
   texts_.clear();
+}
+
+void CanvasLog::replaceBy(const CanvasLog& other) {
+  const unsigned wipes = wipes_ + 1;
+  *this = other;
+  wipes_ = wipes;
 }
 
 const CallForm& formOf(CanvasOp op) {
@@ -32,7 +39,7 @@ const CallForm& formOf(CanvasOp op) {
 }
 
 void RecordingCanvas::show(const CanvasLog& log) {
-  log_ = log;
+  log_.replaceBy(log);
 }
 
 void RecordingCanvas::take(CanvasOp op, const Numbers& numbers, std::string_view text) {

@@ -22,13 +22,16 @@ class CanvasLog {
  public:
   void add(CanvasOp op, const std::array<double, 4>& numbers, std::string_view text);
   void clear(const CanvasState& start);
+  void replaceBy(const CanvasLog& other);  // as if wiped and drawn anew
 
   const CanvasState& start() const { return start_; }
+  unsigned wipes() const { return wipes_; }  // how often it was wiped
   const std::vector<CanvasCall>& calls() const { return calls_; }
   const std::string& textOf(const CanvasCall& call) const { return texts_[call.text]; }
 
  private:
   CanvasState start_;
+  unsigned wipes_ = 0;
   std::vector<CanvasCall> calls_;
   std::vector<std::string> texts_;
 };

@@ -25,23 +25,14 @@ std::vector<PicturePoint> thinned(const std::vector<PicturePoint>& line, int wid
   return out;
 }
 
-class Replay {
+}  // namespace
+
+// The calls of a canvas as strokes of a brush.
+class CanvasReplay::Stroke {
  public:
-  Replay(PictureSize size, int columns, PictureBrush& brush)
-      : size_(size), columns_(columns), brush_(brush), scale_(pictureScale(size)) {}
+  Stroke(PictureSize size, int columns, double scale, CanvasState& state, PictureBrush& brush)
+      : size_(size), columns_(columns), brush_(brush), scale_(scale), state_(state) {}
 
-  void paint(const CanvasLog& log) {
-    state_ = log.start();
-    std::uint32_t ground = state_.backColor;
-    for (const CanvasCall& call : log.calls()) {
-      if (call.op == CanvasOp::BackColor) ground = static_cast<std::uint32_t>(call.numbers[0]);
-    }
-    brush_.ground(size_, ground);
-    for (const CanvasCall& call : log.calls()) take(log, call);
-    flush();
-  }
-
- private:
   void take(const CanvasLog& log, const CanvasCall& call) {
     if (call.op == CanvasOp::Line) return addLine(call.numbers);
     flush();
@@ -53,6 +44,20 @@ class Replay {
     if (inverts) brush_.invert(false);
   }
 
+  void flush() {
+    if (line_.empty()) return;
+    const bool inverts = state_.drawMode == kInvertMode;
+    if (!inverts || brush_.invert(true)) {
+      // What is closer together than half the pen's width is under its ink.
+      const int columns = std::max(1, static_cast<int>(columns_ / std::max(1.0, ink().width / 2)));
+      const bool many = line_.size() > static_cast<std::size_t>(columns);
+      brush_.line(many ? thinned(line_, size_.width, columns) : line_, ink());
+    }
+    if (inverts) brush_.invert(false);
+    line_.clear();
+  }
+
+ private:
   void draw(const CanvasCall& call, const CanvasLog& log) {
     const auto& [a, b, c, d] = call.numbers;
     const PicturePoint at = place(a, b);
@@ -93,19 +98,6 @@ class Replay {
     line_.push_back(place(ends[2], ends[3]));
   }
 
-  void flush() {
-    if (line_.empty()) return;
-    const bool inverts = state_.drawMode == kInvertMode;
-    if (!inverts || brush_.invert(true)) {
-      // What is closer together than half the pen's width is under its ink.
-      const int columns = std::max(1, static_cast<int>(columns_ / std::max(1.0, ink().width / 2)));
-      const bool many = line_.size() > static_cast<std::size_t>(columns);
-      brush_.line(many ? thinned(line_, size_.width, columns) : line_, ink());
-    }
-    if (inverts) brush_.invert(false);
-    line_.clear();
-  }
-
   Ink ink() const { return {state_.foreColor, state_.drawStyle, std::max(1.0, state_.drawWidth * scale_)}; }
 
   PicturePoint place(double x, double y) const {
@@ -117,11 +109,31 @@ class Replay {
   int columns_;
   PictureBrush& brush_;
   double scale_;
-  CanvasState state_;
+  CanvasState& state_;
   std::vector<PicturePoint> line_;
 };
 
-}  // namespace
+bool CanvasReplay::goesOn(const CanvasLog& log) const {
+  const auto isGround = [](const CanvasCall& call) { return call.op == CanvasOp::BackColor; };
+  return wipes_ == log.wipes() && painted_ <= log.calls().size() &&
+         std::none_of(log.calls().begin() + static_cast<std::ptrdiff_t>(painted_), log.calls().end(), isGround);
+}
+
+void CanvasReplay::paint(const CanvasLog& log, PictureBrush& brush) {
+  if (!goesOn(log)) {
+    state_ = log.start();
+    std::uint32_t ground = state_.backColor;
+    for (const CanvasCall& call : log.calls()) {
+      if (call.op == CanvasOp::BackColor) ground = static_cast<std::uint32_t>(call.numbers[0]);
+    }
+    brush.ground(size_, ground);
+    wipes_ = log.wipes();
+    painted_ = 0;
+  }
+  Stroke stroke(size_, columns_, scale_, state_, brush);
+  for (; painted_ < log.calls().size(); ++painted_) stroke.take(log, log.calls()[painted_]);
+  stroke.flush();
+}
 
 double pictureScale(PictureSize size) {
   return std::min(size.width / kUsualWidth, size.height / kUsualHeight);
@@ -133,7 +145,7 @@ double letterSize(double points, double scale) {
 }
 
 void replay(const CanvasLog& log, PictureSize size, int columns, PictureBrush& brush) {
-  Replay(size, columns, brush).paint(log);
+  CanvasReplay(size, columns, pictureScale(size)).paint(log, brush);
 }
 
 }  // namespace kestra

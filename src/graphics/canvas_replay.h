@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -49,8 +50,28 @@ class PictureBrush {
 double pictureScale(PictureSize size);
 double letterSize(double points, double scale);  // pixels
 
-// Paints what a canvas shows. Lines that continue each other become one, thinned to what so many columns of pixels can
-// show under the width of its pen.
+// Paints what a canvas shows, and later what was drawn on it since. Lines that continue each other become one, thinned
+// to what so many columns of pixels can show under the width of its pen.
+class CanvasReplay {
+ public:
+  CanvasReplay(PictureSize size, int columns, double scale) : size_(size), columns_(columns), scale_(scale) {}
+
+  // Brings a picture up to date; one that it has not painted before, or whose canvas was wiped since, from the ground.
+  void paint(const CanvasLog& log, PictureBrush& brush);
+
+ private:
+  class Stroke;
+  bool goesOn(const CanvasLog& log) const;
+
+  PictureSize size_;
+  int columns_;
+  double scale_;
+  CanvasState state_;
+  std::optional<unsigned> wipes_;  // of the canvas when it was painted
+  std::size_t painted_ = 0;        // calls
+};
+
+// All that a canvas shows, its letters and pens growing with the picture.
 void replay(const CanvasLog& log, PictureSize size, int columns, PictureBrush& brush);
 
 }  // namespace kestra

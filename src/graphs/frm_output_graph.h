@@ -69,7 +69,7 @@ class frmOutputGraph : public GraphScreen, public GraphToolHost {
 
   void mnuGraph_Click(int number);
   void ReDrawGraph(int number) override;  // with the window that was saved; a RuntimeFault outside 0 to 21
-  void Form_Resize(int width, int height);
+  void Form_Resize(int width, int height) override;
   void redrawShown() override { ReDrawGraph(shown_); }
   // Rounds a window with the memo of the shown graph and makes it the working one. Says so in a box when it cannot be
   // done; the steps are then 0.

@@ -15,6 +15,12 @@ QFont fontFor(double pixels, bool bold) {
   return font;
 }
 
+TextSize PainterMetrics::measure(std::string_view text, double fontSize, bool bold) const {
+  const QFontMetricsF metrics(fontFor(letterSize(fontSize, scale_), bold));
+  const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  return {metrics.horizontalAdvance(shown) / size_.width, metrics.height() / size_.height};
+}
+
 QColor PainterBrush::color(std::uint32_t value) {
   return {static_cast<int>(value & 0xFFU), static_cast<int>(value >> 8U & 0xFFU),
           static_cast<int>(value >> 16U & 0xFFU)};
@@ -73,6 +79,7 @@ void PainterBrush::text(PicturePoint upperLeft, std::string_view text, const Let
 
 bool PainterBrush::invert(bool on) {
   if (!raster_) return false;
+  painter_.setRenderHint(QPainter::Antialiasing, !on);  // inverting half a pixel twice would leave a trace
   painter_.setCompositionMode(on ? QPainter::RasterOp_NotDestination : QPainter::CompositionMode_SourceOver);
   return true;
 }

@@ -6,10 +6,22 @@
 #include <QPen>
 
 #include "graphics/canvas_replay.h"
+#include "graphics/text_metrics.h"
 
 namespace kestra {
 
 QFont fontFor(double pixels, bool bold);
+
+// The texts of a picture of that size, in letters that are `scale` times those of a screen.
+class PainterMetrics : public TextMetrics {
+ public:
+  PainterMetrics(PictureSize size, double scale) : size_(size), scale_(scale) {}
+  TextSize measure(std::string_view text, double fontSize, bool bold) const override;
+
+ private:
+  PictureSize size_;
+  double scale_;
+};
 
 // Paints with Qt's painter. `raster`: on pixels, which can be inverted.
 class PainterBrush : public PictureBrush {

@@ -1,7 +1,6 @@
 #include "render/qt_pictures.h"
 
 #include <QBuffer>
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMarginsF>
@@ -90,19 +89,6 @@ struct QtPictures::Toolkit {
   QGuiApplication application{count, words.data()};
 };
 
-class QtPictures::Metrics : public TextMetrics {
- public:
-  explicit Metrics(PictureSize size) : size_(size) {}
-  TextSize measure(std::string_view text, double fontSize, bool bold) const override {
-    const QFontMetricsF metrics(fontFor(letterSize(fontSize, pictureScale(size_)), bold));
-    const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    return {metrics.horizontalAdvance(shown) / size_.width, metrics.height() / size_.height};
-  }
-
- private:
-  PictureSize size_;
-};
-
 QtPictures::QtPictures() = default;
 QtPictures::~QtPictures() = default;
 
@@ -131,7 +117,7 @@ Result<std::string> QtPictures::make(const std::vector<const CanvasLog*>& drawin
 
 const TextMetrics& QtPictures::metrics(PictureSize size) {
   start();
-  metrics_ = std::make_unique<Metrics>(size);
+  metrics_ = std::make_unique<PainterMetrics>(size, pictureScale(size));
   return *metrics_;
 }
 

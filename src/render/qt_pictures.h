@@ -21,11 +21,10 @@ class QtPictures : public PictureMaker {
 
  private:
   struct Toolkit;
-  class Metrics;
   void start();
 
   std::unique_ptr<Toolkit> toolkit_;
-  std::unique_ptr<Metrics> metrics_;
+  std::unique_ptr<TextMetrics> metrics_;
 };
 
 }  // namespace kestra

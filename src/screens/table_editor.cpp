@@ -111,9 +111,11 @@ void TableEditor::enterLaterValue(const Place& place) {
 
 void TableEditor::refuse(const std::string& message, bool blank) {
   ports_.boxes.tell("Data Check", message, BoxIcon::warning);
-  if (!blank) return;
-  table_.setCurrentText("");
-  table_.userEdited();
+  if (blank) {
+    table_.setCurrentText("");
+    table_.userEdited();
+  }
+  table_.setFault(table_.cursor(), message);
 }
 
 void TableEditor::advance(const Place& place) {

@@ -3,38 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QPushButton>
+#include <QMenuBar>
+#include <QScreen>
 #include <QTableView>
-#include <QTest>
 
-#include "desktop/qt_environment.h"
-#include "desktop/qt_text.h"
-#include "support/scripted_desk.h"
+#include "desktop/shown_desk.h"
 
 namespace kestra {
 namespace {
-
-// The program's windows over scripted ports, a project open and the first input screen on show.
-struct ShownDesk : RunningDesk {
-  ShownDesk() {
-    makeProject(shell, "/home", "dam");
-    window.start({});
-    QTest::qWait(0);
-  }
-  QWidget& widget(Control& control) { return *window.viewOf(control.screen()).widgetOf(control); }
-  void press(Control& button) {
-    QTest::mouseClick(&widget(button), Qt::LeftButton);
-    QTest::qWait(0);
-  }
-  void type(Control& field, const char* text) {
-    widget(field).setFocus();
-    QTest::keyClicks(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &widget(field), text);
-    QTest::qWait(0);
-  }
-  Desk window{app};
-};
 
 TEST(Desk, opensOnTheInputWindowOfTheProject) {
   ShownDesk desk;
@@ -104,6 +80,131 @@ TEST(Desk, staysWhenTheUserDoesNotWantToExit) {
   desk.window.close();
   EXPECT_TRUE(desk.window.isVisible());
   EXPECT_FALSE(desk.shell.ended());
+}
+
+QStringList menuTitles(const Desk& window) {
+  QStringList titles;
+  for (const QAction* menu : window.menuBar()->actions())
+    if (menu->isVisible()) titles.append(menu->text().remove(QLatin1Char('&')));
+  return titles;
+}
+
+TEST(Desk, showsTheMenusOfTheScreenInFront) {
+  ShownDesk desk;
+  const QStringList ofInputWindow = {"File", "Summary", "Window", "Options", "Help"};
+  EXPECT_EQ(menuTitles(desk.window), ofInputWindow);
+  desk.show(desk.shell.input.structureTable);
+  EXPECT_EQ(menuTitles(desk.window), (QStringList{"File", "Edit"}));
+  desk.show(desk.shell.about);
+  EXPECT_EQ(menuTitles(desk.window), ofInputWindow);
+}
+
+TEST(Desk, laysItsWindowsOutSideBySide) {
+  ShownDesk desk;
+  desk.show(desk.shell.input.damSurface);
+  desk.shell.inputWindow.mnuTile.click();
+  const auto windows = desk.window.findChild<QMdiArea*>()->subWindowList();
+  ASSERT_EQ(windows.size(), 2);
+  EXPECT_FALSE(windows[0]->geometry().intersects(windows[1]->geometry()));
+  desk.shell.inputWindow.mnuCascade.click();
+  EXPECT_TRUE(windows[0]->geometry().intersects(windows[1]->geometry()));
+}
+
+TEST(Desk, showsTheHelpOfTheScreenInFrontByItsKey) {
+  ShownDesk desk;
+  desk.show(desk.shell.input.damSurface);
+  QTest::keyClick(&desk.window, Qt::Key_F1);
+  desk.show(desk.shell.about);
+  QTest::keyClick(&desk.window, Qt::Key_F1);
+  EXPECT_EQ(desk.help.topics, (std::vector<std::string>{"html\\DamSurfaceDescription.htm", ""}));
+}
+
+TEST(Desk, comesBackWhereItWasAndNeverOffTheScreen) {
+  ShownDesk first;
+  const QRect space = first.window.screen()->availableGeometry();
+  first.window.setGeometry(40, 50, 640, 480);
+  first.shell.inputWindow.mnuExit.click();
+  first.shell.topScreen.mnuExit.click();
+  first.window.close();
+  const std::string kept = first.settings.get("Window", "geometry", "");
+  ASSERT_NE(kept, "");
+
+  ScriptedDesk ports;
+  ASSERT_TRUE(ports.settings.set("Window", {{"geometry", kept}}));
+  Application again(ports.ports(), "/app");
+  Desk second(again);
+  second.start({});
+  EXPECT_EQ(second.geometry(), QRect(40, 50, 640, 480));
+  EXPECT_TRUE(space.contains(second.geometry()));
+}
+
+TEST(Desk, marksTheCellAtFaultWithItsMessage) {
+  ShownDesk desk;
+  desk.show(desk.shell.input.damSurface);
+  Table& table = desk.shell.input.damSurface.grdTable;
+  QWidget& view = desk.widget(table);
+  view.setFocus();
+  QTest::qWait(0);
+  QTest::keyClick(&view, Qt::Key_Return);
+  const auto* const model = dynamic_cast<QTableView&>(view).model();
+  const QModelIndex cell = model->index(0, 0);
+  EXPECT_EQ(model->data(cell, Qt::ToolTipRole).toString(), QStringLiteral("This cell must contain data."));
+  EXPECT_TRUE(model->data(cell, Qt::BackgroundRole).isValid());
+  QTest::keyClicks(&view, "5");
+  EXPECT_FALSE(model->data(cell, Qt::ToolTipRole).isValid());
+  EXPECT_FALSE(model->data(cell, Qt::BackgroundRole).isValid());
+}
+
+TEST(Desk, copiesAndPastesCellsAsSpreadsheetsDo) {
+  ShownDesk desk;
+  desk.show(desk.shell.input.structureTable);
+  Table& table = desk.shell.input.structureTable.grdTable;
+  auto& view = desk.widgetAs<QTableView>(table);
+  view.setFocus();
+  QTest::qWait(0);
+  desk.clipboard.setText("1000\t\t0\n1004\t\t1.2\n");
+  QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(table.cell(2, 1), "1004");
+  EXPECT_EQ(table.cell(2, 3), "1.2");
+  const auto cellMiddle = [&view](int row, int column) {
+    return view.visualRect(view.model()->index(row, column)).center();
+  };
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, cellMiddle(0, 0));
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::ShiftModifier, cellMiddle(1, 2));
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(desk.clipboard.text(), "1000\t\t0\r\n1004\t\t1.2\r\n");
+  QTest::keyClick(&view, Qt::Key_Delete);
+  EXPECT_EQ(table.cell(1, 1), "");
+  QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(table.cell(1, 1), "1000");
+  QTest::keyClick(&view, Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(table.cell(1, 1), "");
+}
+
+TEST(Desk, offersTheEditMenuUnderTheRightButtonOfATable) {
+  ShownDesk desk;
+  desk.show(desk.shell.input.structureTable);
+  auto& view = desk.widgetAs<QTableView>(desk.shell.input.structureTable.grdTable);
+  emit view.customContextMenuRequested(QPoint(5, 5));
+  const auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(told(menu->actions().first()->objectName()), "mnuUndo");
+  QApplication::activePopupWidget()->close();
+}
+
+TEST(Desk, letsNothingBeReachedBesideTheProgress) {
+  ShownDesk desk;
+  desk.shell.progress.begin(10);
+  desk.shell.progress.step(4, "KestraSim on dam.KSC");
+  QTest::qWait(0);
+  ScreenView& view = desk.window.viewOf(desk.shell.progress);
+  ASSERT_TRUE(view.isVisible());
+  EXPECT_EQ(QApplication::activeModalWidget(), view.window());
+  desk.press(desk.shell.progress.cmdStop);
+  EXPECT_TRUE(desk.shell.progress.stopRequested());
+  desk.shell.progress.finish();
+  QTest::qWait(0);
+  EXPECT_FALSE(view.isVisible());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-"""Opens control files as script/run does, with the program that was built: run_test.py KESTRA."""
+"""Does the first job of script/run with the programs that were built: run_test.py KESTRA."""
 
 import os
 import subprocess
@@ -9,31 +9,8 @@ import unittest
 sys.dont_write_bytecode = True
 
 HOME = os.path.realpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", ".."))
-KESTRA = sys.argv.pop(1)
-
-SMALL_FILE = """KESTRA    01/01/2009A dam
-NONSENSE  1
-STRUCTURE Larkmoor
-                    1000                0         0
-                    1004                1.2
-ENDTABLE
-"""
-SMALL_PAGE = """Folder   {0}/runs/1
-Project  {0}/runs/1/project
-File     {0}/runs/1/project/small dam.KSC
-Title    Kestra B ( {0}/runs/1/project/small dam.KSC )
-
-Main run
-       1   KESTRA
-           project  A dam
-       3   STRUCTURE
-           structure  Larkmoor
-           elevation  discharge  storage  area
-                1000                   0     0
-                1004                 1.2
-       2   not known: NONSENSE  1
-           the file ends before this run does
-"""
+PROGRAMS = os.path.dirname(os.path.realpath(sys.argv.pop(1)))
+EXAMPLE = os.path.join(HOME, "examples", "stock-pond.KSC")
 
 
 class Run(unittest.TestCase):
@@ -49,47 +26,53 @@ class Run(unittest.TestCase):
                               capture_output=True, encoding="utf-8", check=False)
         return done.returncode, done.stdout, done.stderr
 
-    def open(self, control_file, program=KESTRA):
-        return self.run_script(sys.executable, "-B", os.path.join(HOME, "script", "open_control_file.py"), program,
-                               self.runs, control_file)
+    def first_job(self, control_file, *words, programs=PROGRAMS):
+        return self.run_script(sys.executable, "-B", os.path.join(HOME, "script", "first_job.py"), programs,
+                               self.runs, control_file, *words)
 
-    def put(self, name, text):
-        path = os.path.join(self.place, name)
-        with open(path, "w", encoding="utf-8") as file:
-            file.write(text)
-        return path
-
-    def test_a_file_is_shown_record_by_record(self):
-        code, page, errors = self.open(self.put("small dam.KSC", SMALL_FILE))
+    def test_without_a_window_the_file_is_built_drawn_and_summed_up(self):
+        code, page, errors = self.first_job(EXAMPLE)
         self.assertEqual((code, errors), (0, ""))
-        self.assertEqual(page, SMALL_PAGE.format(self.place))
+        folder = os.path.join(self.runs, "1")
+        lines = page.splitlines()
+        self.assertEqual(lines[:3], [f"File     {folder}/project/stock-pond.KSC",
+                                     f"Results  {folder}/project/stock-pond.OUT",
+                                     f"Graph    {folder}/graphs/graph-0.png  Hydrographs"])
+        self.assertEqual(lines[-1], f"Summary  {folder}/summary.txt")
+        for line in lines:
+            kind, path = line.split(maxsplit=1)
+            path = path.split("  ")[0]
+            self.assertGreater(os.path.getsize(path), 0, line)
+            self.assertEqual(path.endswith(".png"), kind == "Graph")
 
-    def test_the_example_is_known_to_its_last_line(self):
-        code, page, errors = self.open(os.path.join(HOME, "examples", "stock-pond.KSC"))
-        self.assertEqual((code, errors), (0, ""))
-        self.assertIn("           project  Larkmoor Farm stock pond\n", page)
-        self.assertNotIn("not known", page)
-        self.assertNotIn("the file ends before", page)
-
-    def test_each_run_has_a_folder_of_its_own_and_leaves_the_users_settings_alone(self):
-        example = self.put("small.KSC", SMALL_FILE)
+    def test_each_job_has_a_folder_of_its_own_and_leaves_the_users_settings_alone(self):
         for number in ("1", "2"):
-            code, page, _ = self.open(example)
+            code, page, _ = self.first_job(EXAMPLE)
             self.assertEqual(code, 0)
-            self.assertIn(f"Folder   {self.runs}/{number}\n", page)
+            self.assertIn(f"File     {self.runs}/{number}/project/stock-pond.KSC\n", page)
         self.assertEqual(sorted(os.listdir(self.runs)), ["1", "2"])
         self.assertFalse(os.path.exists(os.path.join(self.place, "config")))
 
+    def test_with_a_window_the_desktop_program_gets_the_file(self):
+        programs = os.path.join(self.place, "programs")
+        os.mkdir(programs)
+        os.symlink(os.path.join(PROGRAMS, "kestra"), os.path.join(programs, "kestra"))
+        with open(os.path.join(programs, "kestra-b"), "w", encoding="utf-8") as program:
+            program.write('#!/bin/sh\nprintf "%s\\n" "$@"\n')
+        os.chmod(program.name, 0o755)
+        code, page, errors = self.first_job(EXAMPLE, "--window", programs=programs)
+        file = f"{self.runs}/1/project/stock-pond.KSC"
+        self.assertEqual((code, errors), (0, ""))
+        self.assertEqual(page, f"File     {file}\n{file}\n--settings\n{self.runs}/1/settings.ini\n")
+
     def test_what_cannot_be_done_is_told(self):
         missing = os.path.join(self.place, "none.KSC")
-        whole = self.put("small.KSC", SMALL_FILE)
-        for arguments, message in (
-                ((missing,), f"open_control_file: there is no control file {missing}\n"),
-                ((self.place,), f"open_control_file: there is no control file {self.place}\n"),
-                ((whole, "/bin/false"), "open_control_file: false new ended with 1\n"),
-                ((whole, "/bin/none"), "open_control_file: [Errno 2] No such file or directory: '/bin/none'\n")):
+        for control_file, programs, message in (
+                (missing, PROGRAMS, f"first_job: there is no control file {missing}\n"),
+                (self.place, PROGRAMS, f"first_job: there is no control file {self.place}\n"),
+                (EXAMPLE, "/none", "first_job: [Errno 2] No such file or directory: '/none/kestra'\n")):
             with self.subTest(message):
-                self.assertEqual(self.open(*arguments), (1, "", message))
+                self.assertEqual(self.first_job(control_file, programs=programs), (1, "", message))
 
     def test_script_run_tells_of_a_missing_file_before_it_builds(self):
         script = os.path.join(HOME, "script", "run")

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+#include <functional>
+
+#include "desktop/desk.h"
+#include "desktop/qt_desk.h"
+#include "desktop/qt_environment.h"
+#include "desktop/qt_text.h"
+#include "support/temp_directory.h"
+
+namespace kestra {
+
+// Answers the box or dialog that comes up next, which has to come while this lives.
+class NextBox {
+ public:
+  explicit NextBox(std::function<void(QDialog&)> answer) : answer_(std::move(answer)) {
+    QObject::connect(&timer_, &QTimer::timeout, [this] { look(); });
+    timer_.start(kMilliseconds);
+  }
+  ~NextBox() { EXPECT_TRUE(answered_) << "no box came up"; }
+  NextBox(const NextBox&) = delete;
+  NextBox& operator=(const NextBox&) = delete;
+
+  static std::function<void(QDialog&)> pressing(Qt::Key key) {
+    return [key](QDialog& box) { QTest::keyClick(&box, key); };
+  }
+  // Types a name into a file dialog and confirms it.
+  static std::function<void(QDialog&)> naming(const std::string& path) {
+    return [path](QDialog& dialog) {
+      auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+      ASSERT_NE(name, nullptr);
+      name->clear();
+      QTest::keyClicks(name, shown(path));
+      QTest::keyClick(name, Qt::Key_Return);
+    };
+  }
+
+ private:
+  static constexpr int kMilliseconds = 5;
+
+  void look() {
+    auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    const bool asks = qobject_cast<QMessageBox*>(box) != nullptr || qobject_cast<QFileDialog*>(box) != nullptr;
+    if (answered_ || !asks) return;
+    answered_ = true;
+    timer_.stop();
+    answer_(*box);
+  }
+
+  std::function<void(QDialog&)> answer_;
+  QTimer timer_;
+  bool answered_ = false;
+};
+
+// The program as it is started, in a directory of its own, on real files, with the real engine beside it.
+struct RealDesk {
+  RealDesk() {
+    std::filesystem::current_path(folder.path());
+    window.start({});
+    QTest::qWait(0);
+  }
+  ~RealDesk() { std::filesystem::current_path(before); }
+  RealDesk(const RealDesk&) = delete;
+  RealDesk& operator=(const RealDesk&) = delete;
+
+  QWidget& widget(Control& control) { return *window.viewOf(control.screen()).widgetOf(control); }
+  void click(Control& control) {
+    QTest::mouseClick(&widget(control), Qt::LeftButton);
+    QTest::qWait(0);
+  }
+  void type(Control& field, const std::string& text) {
+    widget(field).setFocus();
+    QTest::keyClicks(&widget(field), shown(text));
+    QTest::qWait(0);
+  }
+  void key(Qt::Key key, Qt::KeyboardModifiers with) {
+    QTest::keyClick(&window, key, with);
+    QTest::qWait(0);
+  }
+  Screen& front() { return *app.host.shown().front(); }
+
+  std::filesystem::path before = std::filesystem::current_path();
+  TempDirectory folder;
+  QtDesk ports{{{}, QStringLiteral(KESTRA_BIN_DIR), shown(folder.at("settings.ini"))}};
+  Application app{ports.ports(), ports.applicationDirectory()};
+  Shell& shell = app.shell;
+  Desk window{app};
+};
+
+}  // namespace kestra

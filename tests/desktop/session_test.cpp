@@ -1,0 +1,204 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTableView>
+#include <fstream>
+#include <sstream>
+
+#include "desktop/canvas_widget.h"
+#include "desktop/real_desk.h"
+#include "support/window_desk.h"
+
+namespace kestra {
+namespace {
+
+std::string contentOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::stringstream content;
+  content << file.rdbuf();
+  return content.str();
+}
+
+// The example's values, in the screens of a second system whose files are in memory.
+struct Pattern : WindowDesk {
+  explicit Pattern(const std::string& example) {
+    memory.put("/home/dam/example.KSC", contentOf(example));
+    open("/home/dam/example.KSC");
+  }
+};
+
+// Types into the windows what another system's screens hold.
+class Typist {
+ public:
+  Typist(RealDesk& desk, Application& pattern) : desk_(desk), pattern_(pattern) {}
+
+  void fill(Screen& screen) {
+    const Screen& wanted = *pattern_.host.find(screen.name());
+    for (const bool choosing : {true, false}) {
+      for (Control* control : screen.controls()) {
+        const bool chooses = control->kind() == ControlKind::option || control->kind() == ControlKind::combo;
+        if (control->visible() && control->enabled() && chooses == choosing) enter(*control, *wanted.find(control->name()));
+      }
+    }
+  }
+
+ private:
+  void enter(Control& control, const Control& wanted) {
+    if (auto* const option = dynamic_cast<OptionButton*>(&control))
+      return choose(*option, dynamic_cast<const OptionButton&>(wanted));
+    if (auto* const combo = dynamic_cast<ComboBox*>(&control))
+      return select(*combo, dynamic_cast<const ComboBox&>(wanted).index());
+    if (auto* const box = dynamic_cast<TextBox*>(&control))
+      return write(*box, dynamic_cast<const TextBox&>(wanted).text());
+    if (auto* const table = dynamic_cast<Table*>(&control)) return write(*table, dynamic_cast<const Table&>(wanted));
+  }
+  void choose(OptionButton& option, const OptionButton& wanted) {
+    if (wanted.selected() && !option.selected()) desk_.click(option);
+  }
+  void select(ComboBox& combo, int index) {
+    while (combo.index() < index) QTest::keyClick(&desk_.widget(combo), Qt::Key_Down);
+    QTest::qWait(0);
+  }
+  void write(TextBox& box, const std::string& text) {
+    if (box.text() == text) return;
+    QWidget& field = desk_.widget(box);
+    field.setFocus();
+    QTest::qWait(0);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    for (const char c : text) {
+      if (c == '\r') continue;
+      c == '\n' ? QTest::keyClick(&field, Qt::Key_Return) : QTest::keyClick(&field, c);
+    }
+    QTest::qWait(0);
+    EXPECT_EQ(box.text(), text) << box.screen().name() << "." << box.name();
+  }
+  void write(Table& table, const Table& wanted) {
+    QWidget& view = desk_.widget(table);
+    view.setFocus();
+    QTest::qWait(0);
+    for (int row = table.fixedRows(); row < table.rows(); ++row) {
+      for (int column = table.fixedColumns(); column < table.columns(); ++column) {
+        const std::string& text = wanted.cell(row, column);
+        if (text.empty()) continue;
+        walkTo(table, view, {row, column});
+        QTest::keyClicks(&view, shown(text));
+        EXPECT_EQ(table.cell(row, column), text) << table.screen().name() << " " << row << "," << column;
+      }
+    }
+  }
+  static void walkTo(Table& table, QWidget& view, CellPosition to) {
+    while (table.cursor().row != to.row)
+      QTest::keyClick(&view, table.cursor().row < to.row ? Qt::Key_Down : Qt::Key_Up);
+    while (table.cursor().column != to.column)
+      QTest::keyClick(&view, table.cursor().column < to.column ? Qt::Key_Right : Qt::Key_Left);
+  }
+
+  RealDesk& desk_;
+  Application& pattern_;
+};
+
+// What `kestra drive` writes when it is given the example and told to save it.
+std::string writtenByDriving(const RealDesk& desk, const std::string& example, const std::string& path) {
+  std::filesystem::copy_file(example, path);
+  QProcess drive;
+  drive.start(QStringLiteral(KESTRA_BIN_DIR "/kestra"),
+              {QStringLiteral("drive"), shown(path), QStringLiteral("--settings"), shown(desk.folder.at("other.ini"))});
+  const std::string saving = R"({"do":"call","name":"BuildControlText","args":[")" + path + "\"]}\n" +
+                             R"({"do":"call","name":"WriteControlFiles","args":[")" + path + "\"]}\n";
+  drive.write(saving.c_str());
+  drive.closeWriteChannel();
+  EXPECT_TRUE(drive.waitForFinished());
+  EXPECT_EQ(drive.exitCode(), 0) << drive.readAllStandardError().toStdString();
+  return contentOf(path);
+}
+
+TEST(Session, typesADamSavesBuildsAndLooksAtItsGraphs) {
+  const std::string example = KESTRA_SOURCE_DIR "/examples/stock-pond.KSC";
+  Pattern pattern(example);
+  RealDesk desk;
+  desk.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+  desk.type(desk.shell.newProject.txtEnterName, "pond");
+  desk.click(desk.shell.newProject.cmdOK);
+  const std::string project = desk.folder.at("pond");
+  ASSERT_EQ(desk.app.state.projectDir, project);
+
+  desk.key(Qt::Key_N, Qt::ControlModifier);
+  desk.click(desk.shell.inputWindow.cmdNext);
+  Typist typist(desk, pattern.app);
+  std::vector<std::string> walked;
+  while (&desk.front() != &desk.shell.inputWindow && walked.size() < 20) {
+    Screen& screen = desk.front();
+    walked.push_back(screen.name());
+    typist.fill(screen);
+    desk.click(*screen.find("cmdNext"));
+  }
+  EXPECT_EQ(walked, (std::vector<std::string>{"frmProjectInformation", "Properties", "frmDamSurface",
+                                              "frmStructureTable", "frmHydrographData", "frmPSType", "frmPSConduit",
+                                              "frmPSRatingTable", "frmAuxSpillways", "frmAuxRatingTable"}));
+
+  const std::string file = project + "/typed.KSC";
+  {
+    const NextBox name(NextBox::naming(file));
+    desk.key(Qt::Key_S, Qt::ControlModifier);
+  }
+  EXPECT_EQ(contentOf(file), writtenByDriving(desk, example, project + "/driven.KSC"));
+  EXPECT_EQ(desk.app.state.currentFile, file);
+
+  desk.key(Qt::Key_F5, {});
+  EXPECT_NE(contentOf(project + "/typed.OUT"), "");
+  EXPECT_EQ(desk.app.summary.entryNames().size(), 1U);
+
+  frmOutputGraph& graphs = desk.shell.graphs.output;
+  graphs.OpenFile(file);
+  QTest::qWait(40);
+  auto& canvas = dynamic_cast<CanvasWidget&>(desk.widget(graphs.Pic1(0)));
+  ASSERT_TRUE(canvas.isVisible());
+  EXPECT_TRUE(graphs.isDrawn(0));
+  const double whole = graphs.savedWindow(0).xRange();
+  QTest::mouseClick(&canvas, Qt::LeftButton, {}, canvas.rect().center());
+  EXPECT_LT(graphs.savedWindow(0).xRange(), whole);
+  EXPECT_EQ(takeWarnings(), "");
+
+  const NextBox agreed(NextBox::pressing(Qt::Key_Return));
+  desk.window.close();
+  EXPECT_TRUE(desk.shell.ended());
+}
+
+TEST(Session, opensAgainWhatItHasSaved) {
+  RealDesk desk;
+  makeProject(desk.shell, desk.folder.path(), "pond");
+  const std::string file = desk.folder.at("pond/dam.KSC");
+  std::filesystem::copy_file(KESTRA_SOURCE_DIR "/examples/stock-pond.KSC", file);
+  {
+    const NextBox name(NextBox::naming(file));
+    desk.key(Qt::Key_O, Qt::ControlModifier);
+  }
+  EXPECT_EQ(told(desk.window.viewOf(desk.shell.inputWindow).parentWidget()->windowTitle()),
+            "Kestra B ( " + file + " )");
+  desk.click(desk.shell.inputWindow.cmdNext);
+  auto& title = dynamic_cast<QLineEdit&>(desk.widget(desk.shell.input.projectInformation.txtWatershedID));
+  EXPECT_EQ(title.text(), QStringLiteral("Larkmoor Farm stock pond"));
+  EXPECT_EQ(takeWarnings(), "");
+}
+
+TEST(Session, tellsInARealBoxWhatIsWrong) {
+  RealDesk desk;
+  desk.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+  std::filesystem::create_directory(desk.folder.at("pond"));
+  desk.type(desk.shell.newProject.txtEnterName, "pond");
+  QString text;
+  const NextBox box([&text](QDialog& dialog) {
+    text = dynamic_cast<QMessageBox&>(dialog).text();
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  desk.click(desk.shell.newProject.cmdOK);
+  EXPECT_EQ(told(text), "Project directory already exists, please try another name.");
+  EXPECT_EQ(desk.app.state.projectDir, "");
+}
+
+}  // namespace
+}  // namespace kestra
