@@ -60,6 +60,7 @@ void Desk::start(const QString& commandLine) {
   restorePlace();
   act([this, &commandLine] { application_.shell.startUp(told(commandLine)); });
   arrange();
+  setWindowIcon(QIcon(QStringLiteral(":/pictures/kestra-b.svg")));
   show();
   application_.shell.autosave.turnOn();
   keeping_.start();
