@@ -1,5 +1,7 @@
 #include "app/application.h"
 
+#include <utility>
+
 namespace kestra {
 
 Application::Application(const Ports& given, const std::string& applicationDirectory)
@@ -17,9 +19,12 @@ Application::Application(const Ports& given, const std::string& applicationDirec
       runs{ports, state, runTables, shell.progress, programs, runSummary},
       builds(runs, nullptr) {
   host.onEdited = [this](Screen& screen, Control&) {
-    if (screen.holdsInput()) state.fileDirty = true;
+    if (!screen.holdsInput()) return;
+    state.noteEdit();
+    followEdit();
   };
   shell.fileDesk.runs = &builds;
+  shell.fileDesk.onFile = [this] { followFile(); };
   joinSummary();
   shell.projects.onChanged = [this] { followProject(); };
 }
@@ -35,10 +40,25 @@ void Application::joinSummary() {
   runSummary.onRefreshGraphs = [this] { shell.graphs.output.GetGraphToOpen(); };
 }
 
+// The tables are looked at only when the answer is another one: they ask about every run.
+void Application::followEdit() {
+  const bool shows = shell.graphs.output.loaded() || summaryScreens.table.loaded();
+  if (!shows) return;
+  const bool differs = shell.runInputs.screensDiffer(state.currentFile);
+  if (differs != std::exchange(screensDiffered_, differs)) followFile();
+}
+
+void Application::followFile() {
+  screensDiffered_ = shell.runInputs.screensDiffer(state.currentFile);
+  if (shell.graphs.output.loaded()) shell.graphs.output.followInput();
+  summaryScreens.followInputs();
+}
+
 // The summary is that of the open project; what is on show of another one is dropped.
 void Application::followProject() {
   summaryScreens.closeAll();
   summary.LoadSummaryStore();
+  shell.autosave.projectOpened();
 }
 
 }  // namespace kestra

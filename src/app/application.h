@@ -37,6 +37,10 @@ class Application {
  private:
   void joinSummary();
   void followProject();
+  void followEdit();  // results that are on show tell whether they still belong to their input
+  void followFile();
+
+  bool screensDiffered_ = false;  // when the results on show were told last
 };
 
 }  // namespace kestra

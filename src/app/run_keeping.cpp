@@ -25,6 +25,10 @@ void RunKeeping::showPreview(const std::string& title, const CanvasLog& drawing)
   shell_.graphs.preview.showGraph(title, drawing);
 }
 
+bool RunKeeping::screensDiffer(const std::string& controlFile) {
+  return shell_.runInputs.screensDiffer(controlFile);
+}
+
 void RunKeeping::forgetShown() {
   shell_.editor.forgetFiles();
   shell_.graphs.output.forgetFile();

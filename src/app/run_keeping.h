@@ -18,6 +18,7 @@ class RunKeeping : public RunKeeper {
   void showText(const std::string& path, bool ofInstance) override;
   void showGraphs(const std::string& path, bool ofInstance) override;
   void showPreview(const std::string& title, const CanvasLog& drawing) override;
+  bool screensDiffer(const std::string& controlFile) override;
   void forgetShown() override;
 
  private:

@@ -124,6 +124,8 @@ Json Driver::answer(const Json& request) {
       }
     }
     Json value = carryOut(request);
+    application_.shell.autosave.keep();
+    if (modals_ == 0) application_.shell.autosave.offer();
     answer["ok"] = true;
     answer["value"] = std::move(value);
   } catch (const std::exception& fault) {
@@ -216,9 +218,11 @@ void Driver::run(Screen& screen) {
     return;
   }
   Json replies = Json::array();
+  ++modals_;
   for (const Json& request : asList(given["modal"], "answer \"modal\"")) {
     replies.push_back(screen.visible() ? answer(request) : failed(screen.name() + " is no longer shown"));
   }
+  --modals_;
   modals->push_back({{"screen", screen.name()}, {"replies", std::move(replies)}});
 }
 

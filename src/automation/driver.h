@@ -41,6 +41,7 @@ class Driver : public ModalLoop {
 
   Application& application_;
   Conversation& conversation_;
+  int modals_ = 0;  // screens shown modally, one within the other
   bool quit_ = false;
 };
 

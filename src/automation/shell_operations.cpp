@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <cstdint>
+
 #include "automation/operations.h"
 #include "base/paths.h"
 
@@ -11,6 +14,14 @@ void add(std::vector<Operation>& list, const std::string& name, const std::vecto
          const std::function<Json(Application&, const Arguments&)>& run) {
   list.push_back({name, arguments, run});
   list.push_back({"frmTopScreen." + name, arguments, run});
+}
+
+// A number below 0 turns it off.
+void setAutosave(Autosave& autosave, double seconds) {
+  constexpr double kNanoseconds = 1e9;
+  constexpr double kLongest = 3600;
+  if (seconds < 0) return autosave.turnOff();
+  autosave.turnOn(static_cast<std::int64_t>(std::min(seconds, kLongest) * kNanoseconds));
 }
 
 void addAction(std::vector<Operation>& list, const std::string& name, const std::vector<std::string>& arguments,
@@ -42,6 +53,10 @@ std::vector<Operation> shellOperations() {
             [](Top& top, const Given& a) { top.RemoveRecentProject(a.text(0)); });
   add(list, "ParsePathName", {"path"},
       [](Application&, const Given& a) -> Json { return std::string(ParsePathName(a.text(0))); });
+  list.push_back({"Autosave", {"seconds"}, [](Application& application, const Given& a) -> Json {
+                    setAutosave(application.shell.autosave, a.number(0));
+                    return nullptr;
+                  }});
   list.push_back({"UnloadAllScreens", {}, [](Application& application, const Given&) -> Json {
                     UnloadAllScreens(application.shell.input.context);
                     return nullptr;

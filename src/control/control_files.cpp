@@ -223,10 +223,29 @@ Status ControlFiles::writeCompanion(const std::string& fileName, const std::stri
   return writeWholeFile(files, path, *companion);
 }
 
-void ControlFiles::readCompanion(const std::string& fileName, const std::string& whole) {
-  if (!isInProject(fileName)) return;
+// Empty where there is none.
+std::string ControlFiles::readCompanion(const std::string& fileName) {
+  if (!isInProject(fileName)) return {};
   const auto companion = context_.ports.files.read(companionFileOf(fileName), kReadLimit);
-  if (companion) giveBackCompanion(screens_, context_, companion.value(), whole);
+  return companion ? companion.value() : std::string();
+}
+
+std::optional<std::string> ControlFiles::builtText(const std::string& fileName) {
+  if (BuildControlText(fileName) != -1) return std::nullopt;
+  return wholeText();
+}
+
+std::optional<ControlSnapshot> ControlFiles::snapshot(const std::string& fileName) {
+  const auto whole = builtText(fileName);
+  if (!whole) return std::nullopt;
+  auto companion = composeCompanion(screens_, context_, texts, *whole, ParsePathName(fileName));
+  return ControlSnapshot{*whole, std::move(companion).value_or("")};
+}
+
+std::optional<ControlSnapshot> ControlFiles::savedSnapshot(const std::string& fileName) {
+  const auto text = context_.ports.files.read(fileName, kReadLimit);
+  if (!text) return std::nullopt;
+  return ControlSnapshot{text.value(), readCompanion(fileName)};
 }
 
 std::vector<CutField> ControlFiles::cutFields() {
@@ -288,7 +307,11 @@ std::string ControlFiles::refusal(const Failure& failure) {
 void ControlFiles::ReadControlFile(const std::string& fileName) {
   const auto text = readLoadable(fileName);
   if (!text) return context_.ports.boxes.tell("File Error", refusal(text.failure()), BoxIcon::critical);
-  LineReader lines(text.value());
+  giveBack(fileName, {text.value(), readCompanion(fileName)});
+}
+
+void ControlFiles::giveBack(const std::string& fileName, const ControlSnapshot& saved) {
+  LineReader lines(saved.file);
   texts.controlText = takeRun(lines);
   FirstLines first{};
   for (std::size_t i = 0; i < first.size(); ++i) {
@@ -296,7 +319,7 @@ void ControlFiles::ReadControlFile(const std::string& fileName) {
     texts.auxRunText[i] = takeRun(lines);
   }
   const LoadOfScreens load(context_.host);
-  if (parse(fileName, first)) readCompanion(fileName, text.value());
+  if (parse(fileName, first)) giveBackCompanion(screens_, context_, saved.companion, saved.file);
   showLoaded();
 }
 

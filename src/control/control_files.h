@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,14 @@ class ControlFiles {
   // it is. A file that cannot be taken in is told in a box and changes nothing. A fault on the way (a table with more
   // rows than its screen has) is told in a box with file, line and record; the screens stay as far as they were filled.
   void ReadControlFile(const std::string& fileName);
+  // The control file that a save under this name would write; nothing where it would fail. No file is touched.
+  std::optional<std::string> builtText(const std::string& fileName);
+  // The same with its companion; nothing where it would fail.
+  std::optional<ControlSnapshot> snapshot(const std::string& fileName);
+  // What is saved under this name; nothing where the control file is not there.
+  std::optional<ControlSnapshot> savedSnapshot(const std::string& fileName);
+  // Fills texts and screens as ReadControlFile does, `fileName` being for boxes.
+  void giveBack(const std::string& fileName, const ControlSnapshot& saved);
   void ParseControlText();  // the screens from the texts; a fault is told likewise
   // Fills the stores of a spillway, from 0, from its run. A fault is told likewise.
   void ReadSpillwayRun(const std::string& runText, int spillway);
@@ -69,7 +78,7 @@ class ControlFiles {
   bool writeSpillwayFiles(const std::string& fileName);
   bool isInProject(const std::string& fileName);
   Status writeCompanion(const std::string& fileName, const std::string& whole);
-  void readCompanion(const std::string& fileName, const std::string& whole);
+  std::string readCompanion(const std::string& fileName);
   bool parse(const std::string& fileName, const FirstLines& before);
   void showLoaded();
   void tellFault(const std::string& file, std::size_t line, std::string_view record, const std::string& what);

@@ -14,6 +14,14 @@ struct ControlTexts {
   std::array<std::string, 101> auxRunText;
 };
 
+// All that a save of the screens writes.
+struct ControlSnapshot {
+  std::string file;       // the control file
+  std::string companion;  // what has no place in it; empty: nothing
+
+  bool operator==(const ControlSnapshot&) const = default;
+};
+
 // A field whose text is longer than its columns in the control file.
 struct CutField {
   std::string field;  // "Principal spillway conduit, length"

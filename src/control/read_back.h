@@ -17,10 +17,6 @@ class ReadBack {
   const std::set<std::string>& used() const { return fields_.used; }  // names of the controls that were given a text
 
  private:
-  class NoBoxes : public MessageBoxes {
-   public:
-    BoxButton show(const MessageBox& box) override { return refusal(box); }
-  };
   class NoDesktop : public InputDesktop {
    public:
     Screen& inputWindow() override { return window_; }
@@ -30,7 +26,7 @@ class ReadBack {
     Screen window_{"frmKestra", ""};
   };
 
-  NoBoxes boxes_;
+  SilentMessageBoxes boxes_;
   Ports ports_;
   ApplicationState state_;
   ScreenHost host_{state_.bExiting};

@@ -78,6 +78,7 @@ class Table : public Control {
   // Of the cells' font; empty: as the window likes.
   const std::string& fontName() const { return fontName_; }
   void setFontName(std::string name) { fontName_ = std::move(name); }
+
   // The cell at fault is marked until its text changes.
   void setFault(CellPosition at, std::string message);
   const std::optional<CellFault>& fault() const { return fault_; }

@@ -18,6 +18,7 @@ namespace {
 
 constexpr int kTwipsPerInch = 1440;
 constexpr QSize kUsualSize{1180, 820};
+constexpr int kLookMs = 500;
 constexpr const char* kWindowSection = "Window";
 
 }  // namespace
@@ -32,6 +33,8 @@ Desk::Desk(Application& application) : application_(application), area_(new QMdi
   late_.setInterval(0);
   focusLate_.setSingleShot(true);
   focusLate_.setInterval(0);
+  keeping_.setInterval(kLookMs);
+  connect(&keeping_, &QTimer::timeout, this, [this] { keepInput(); });
   connect(&late_, &QTimer::timeout, this, [this] { arrange(); });
   connect(&focusLate_, &QTimer::timeout, this, [this] { act([] {}); });
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { takeFocusChange(now); });
@@ -57,7 +60,10 @@ void Desk::start(const QString& commandLine) {
   restorePlace();
   act([this, &commandLine] { application_.shell.startUp(told(commandLine)); });
   arrange();
+  setWindowIcon(QIcon(QStringLiteral(":/pictures/kestra-b.svg")));
   show();
+  application_.shell.autosave.turnOn();
+  keeping_.start();
 }
 
 ScreenView& Desk::viewOf(Screen& screen) {
@@ -266,6 +272,14 @@ void Desk::followTitle(Screen& screen) {
   const QString title = shown(screen.title());
   if (&screen == &application_.shell.topScreen) return setWindowTitle(title);
   windowOf(screen).setWindowTitle(title);
+}
+
+void Desk::keepInput() {
+  Autosave& autosave = application_.shell.autosave;
+  autosave.keep();
+  const bool atRest = depth_ == 0 && modal_ == nullptr && QApplication::activeModalWidget() == nullptr &&
+                      QApplication::activePopupWidget() == nullptr;
+  if (atRest && autosave.mayAsk()) act([&autosave] { autosave.offer(); });
 }
 
 void Desk::keepPlace() {

@@ -46,6 +46,7 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   void followMenus();
   void arrangeWindows(WindowArrangement arrangement);
   void followTitle(Screen& screen);
+  void keepInput();  // that is not saved; and, when no command is under way, offers what was left behind
   void placeProgress();
   void showHelp();  // the topic of the screen in front
   void keepPlace();
@@ -64,6 +65,7 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   int depth_ = 0;  // of user actions within each other
   QTimer late_;
   QTimer focusLate_;
+  QTimer keeping_;
 };
 
 }  // namespace kestra

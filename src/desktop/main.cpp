@@ -10,6 +10,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("kestra-b"));
   QApplication::setApplicationDisplayName(QString());
   QApplication::setApplicationVersion(QStringLiteral(KESTRA_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.kestrab.KestraB"));
   const kestra::DeskOptions options = kestra::deskOptions(toolkit);
   kestra::QtDesk desk(options);
   kestra::Application application(desk.ports(), desk.applicationDirectory());

@@ -1,9 +1,12 @@
 #include "graphs/frm_output_graph.h"
 
+#include "base/paths.h"
 #include "base/runtime_fault.h"
+#include "base/text.h"
 #include "graphics/draw_frame.h"
 #include "graphics/draw_series.h"
 #include "graphs/series_csv.h"
+#include "results/input_digest.h"
 
 namespace kestra {
 namespace {
@@ -16,6 +19,14 @@ std::vector<std::string> tabCaptions() {
 
 constexpr int kSlot = static_cast<int>(WindowSlot::outputGraph);
 constexpr const char* kUntitled = "Graphics [ Untitled ]";
+
+// Instances of a spillway, .V2D, stand in a directory that is named after their control file.
+std::string controlFileOfRun(const std::string& path) {
+  constexpr std::string_view kInstance = ".V2D";
+  const bool isInstance =
+      path.size() > kInstance.size() && equalIgnoringCase(path.substr(path.size() - kInstance.size()), kInstance);
+  return isInstance ? std::string(directoryOf(path)) + ".KSC" : path;
+}
 
 }  // namespace
 
@@ -80,11 +91,22 @@ void frmOutputGraph::OpenFile(const std::string& path, bool spillwayAnalysis) {
 
 void frmOutputGraph::GetGraphToOpen() {
   if (controlFile_.empty()) controlFile_ = context_.base.state.currentFile;
-  setTitle(controlFile_.empty() ? kUntitled : "Graphics [ " + controlFile_ + " ]");
+  followInput();
   for (std::size_t n = 0; n < saved_.size(); ++n) {
     if (saved_[n] == whole_[n]) saved_[n] = {};
   }
   ReDrawGraph(shown_);
+}
+
+void frmOutputGraph::followInput() {
+  setTitle(caption());
+}
+
+std::string frmOutputGraph::caption() const {
+  if (controlFile_.empty()) return kUntitled;
+  const std::string text = "Graphics [ " + controlFile_ + " ]";
+  const bool changed = context_.inputChanged && context_.inputChanged(controlFileOfRun(controlFile_));
+  return changed ? text + " - " + kInputChanged : text;
 }
 
 void frmOutputGraph::select(int number) {

@@ -64,7 +64,8 @@ class frmOutputGraph : public GraphScreen, public GraphToolHost {
   // Takes over the open control file where none was chosen before, names it in the caption, and draws the shown graph
   // anew. Graphs that were shown whole will be so again, whatever a run has changed; a part that the user chose stays.
   void GetGraphToOpen();
-  void forgetFile();  // shows no run: "Graphics [ Untitled ]"
+  void followInput();  // tells in the caption whether the input has changed since the run
+  void forgetFile();   // shows no run: "Graphics [ Untitled ]"
 
   void mnuGraph_Click(int number);
   void ReDrawGraph(int number) override;  // with the window that was saved; a RuntimeFault outside 0 to 21
@@ -103,6 +104,7 @@ class frmOutputGraph : public GraphScreen, public GraphToolHost {
   void userMouse(GraphPane& pane, const MouseEvent& event, int number);
   void userKey(const Key& key, int number);
   void select(int number);
+  std::string caption() const;
   void openColors();
 
   GraphSheet sheet(int number);

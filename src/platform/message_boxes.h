@@ -34,4 +34,10 @@ class MessageBoxes {
   bool confirm(std::string title, std::string text);
 };
 
+// Shows nothing and refuses everything.
+class SilentMessageBoxes : public MessageBoxes {
+ public:
+  BoxButton show(const MessageBox& box) override { return refusal(box); }
+};
+
 }  // namespace kestra

@@ -10,10 +10,12 @@
 namespace kestra {
 namespace {
 
+constexpr std::size_t kDigits = 16;
+
 std::string hexadecimal(std::uint64_t value) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
+  constexpr std::string_view kNames = "0123456789abcdef";
   std::string text;
-  for (int shift = 60; shift >= 0; shift -= 4) text += kDigits[value >> shift & 0xFU];
+  for (int shift = 60; shift >= 0; shift -= 4) text += kNames[value >> shift & 0xFU];
   return text;
 }
 
@@ -49,11 +51,16 @@ void dropInputDigest(FileSystem& files, const std::string& controlFile) {
   (void)files.removeFile(inputDigestFile(controlFile));
 }
 
+bool differsFromRun(FileSystem& files, const std::string& controlFile, std::uint64_t digest) {
+  const auto kept = files.read(inputDigestFile(controlFile), kReadLimit);
+  return kept && std::string_view(kept.value()).substr(0, kDigits) != hexadecimal(digest);
+}
+
 bool inputHasChanged(FileSystem& files, const std::string& controlFile) {
   const auto kept = files.read(inputDigestFile(controlFile), kReadLimit);
   if (!kept) return false;
   const auto text = readResultFile(files, controlFile);
-  return !text || std::string_view(kept.value()).substr(0, 16) != hexadecimal(inputDigest(text.value()));
+  return !text || std::string_view(kept.value()).substr(0, kDigits) != hexadecimal(inputDigest(text.value()));
 }
 
 }  // namespace kestra

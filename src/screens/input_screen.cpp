@@ -24,7 +24,7 @@ InputScreen::InputScreen(InputContext& context, std::string name, std::string ti
 }
 
 void InputScreen::followHistory() {
-  context_.base.state.fileDirty = true;
+  context_.base.host.tellEdited(*this, mnuUndo);
   undone();
 }
 

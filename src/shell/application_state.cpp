@@ -11,6 +11,11 @@ bool& ApplicationState::window(int slot) {
   return windowOpen[static_cast<std::size_t>(slot)];
 }
 
+void ApplicationState::noteEdit() {
+  fileDirty = true;
+  ++edits;
+}
+
 void ApplicationState::forgetInput() {
   const ApplicationState design;
   numAuxSpillways = design.numAuxSpillways;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@ struct ApplicationState {
   std::string projectDir;        // of the open project; empty: none
   std::string currentFile;       // full path of the open control file; empty: none
   bool fileDirty = false;        // the screens were edited since the last save or load
+  std::uint64_t edits = 0;       // how often they were edited since the start of the program
   bool fileIsNew = false;        // a new, still unnamed file is being edited
   bool fileHasName = false;      // the file was opened or saved under a name
   bool bExiting = false;         // the system itself is closing windows: screens ask nothing
@@ -42,6 +44,8 @@ struct ApplicationState {
 
   // The flag of a slot; a slot outside 1 to 6 is a fault.
   bool& window(int slot);
+
+  void noteEdit();  // the user has edited the screens
 
   // Gives the values that belong to the input, of spillways and sampling, their initial ones.
   void forgetInput();

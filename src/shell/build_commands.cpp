@@ -10,6 +10,7 @@ constexpr bool kShowProgress = true;
 }  // namespace
 
 bool canRun(FileDesk& desk) {
+  if (!mayChangeProject(desk, "Build")) return false;
   if (desk.runs != nullptr) return true;
   desk.boxes().tell("Build",
                     "The file cannot be built: the part of Kestra B that starts KestraSim.exe and TorveSim.exe is "

@@ -20,7 +20,7 @@ class BuildCommands {
   SaveCommands& saving_;
 };
 
-// Tells that nothing here can start a run; false then.
+// Tells that nothing here can start a run, or that its files can not be written; false then.
 bool canRun(FileDesk& desk);
 
 }  // namespace kestra

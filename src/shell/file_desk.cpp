@@ -29,6 +29,15 @@ std::optional<std::string> chooseControlFile(FileDesk& desk, const std::string& 
   return absolutePath(*chosen, desk.files().currentDirectory());
 }
 
+bool mayChangeProject(FileDesk& desk, const std::string& title) {
+  if (!desk.state().projectReadOnly) return true;
+  desk.boxes().tell(title,
+                    "This project is open in another program. You can look at it here, but nothing in it can be "
+                    "changed.",
+                    BoxIcon::warning);
+  return false;
+}
+
 void showInputWindow(FileDesk& desk) {
   HideInputScreens(desk.context.host);
   desk.context.host.show(desk.window);

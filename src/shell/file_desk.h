@@ -22,7 +22,8 @@ struct FileDesk {
   frmOutput& output;
   frmProgress& progress;
   frmErrorTable& errorTable;
-  FileRuns* runs = nullptr;  // null: nothing here can start a run
+  FileRuns* runs = nullptr;           // null: nothing here can start a run
+  std::function<void()> onFile = {};  // another file is open, or the open one was written
 
   ApplicationState& state() const { return context.state; }
   MessageBoxes& boxes() const { return context.ports.boxes; }
@@ -41,6 +42,9 @@ void setAction(Menu& command, FileDesk& desk, std::function<void()> action);
 
 // Asks for a file to open; an absolute path. Nothing when the dialog is cancelled or confirmed without a name.
 std::optional<std::string> chooseControlFile(FileDesk& desk, const std::string& title);
+
+// Tells under a title that another program has the open project, and nothing in it can be changed; false then.
+bool mayChangeProject(FileDesk& desk, const std::string& title);
 
 // Brings the input window to the front, no input screen before it.
 void showInputWindow(FileDesk& desk);

@@ -11,6 +11,7 @@ namespace kestra {
 
 void OpenFile::begin() {
   ApplicationState& state = desk_.state();
+  if (onPutAway) onPutAway();
   state.fileHasName = false;
   state.fileIsNew = true;
   state.currentFile.clear();
@@ -21,6 +22,7 @@ void OpenFile::begin() {
   witness_.forget();
   setInitialValues();
   desk_.window.setTitle("Kestra B - Input Interface (New File)");
+  if (desk_.onFile) desk_.onFile();
 }
 
 void OpenFile::setInitialValues() {
@@ -69,18 +71,38 @@ bool OpenFile::open(const std::string& path) {
 }
 
 void OpenFile::take(const std::string& path) {
+  takeAs(path, [this, &path] { desk_.control.ReadControlFile(path); });
+}
+
+void OpenFile::takeUnsaved(const std::string& name, const ControlSnapshot& input) {
+  const auto fill = [this, &input](const std::string& path) { desk_.control.giveBack(path, input); };
+  if (name.empty()) {
+    begin();
+    fill("");
+    takeJob();
+  } else {
+    const std::string path = joinPath(desk_.state().projectDir, name);
+    takeAs(path, [&] { fill(path); });
+  }
+  desk_.state().noteEdit();
+  if (desk_.onFile) desk_.onFile();
+}
+
+void OpenFile::takeAs(const std::string& path, const std::function<void()>& fill) {
   ApplicationState& state = desk_.state();
+  if (onPutAway) onPutAway();
   desk_.top.windows().unloadOthers();
   UnloadAllScreens(desk_.input.context);
   state.currentFile = path;
   state.fileDirty = false;
   state.fileIsNew = false;
   state.fileHasName = true;
-  desk_.control.ReadControlFile(path);
+  fill();
   witness_.remember(path);
   desk_.window.takeFile(path);
   if (UndoHistory* history = desk_.context.host.history()) history->clear();
   takeJob();
+  if (desk_.onFile) desk_.onFile();
 }
 
 // On a copy, so that the main run stays as it was read.
@@ -99,6 +121,8 @@ bool OpenFile::write(const std::string& path, const std::string& title) {
                                         " since it was opened here. Do you want to replace it?")) {
     return false;
   }
+  if (inProject(path) && !mayChangeProject(desk_, title)) return false;
+  if (beforeWrite) beforeWrite();
   constexpr int kBuilt = -1;
   if (desk_.control.BuildControlText(path) != kBuilt) {
     desk_.boxes().tell(title, "Unable to generate file, check input forms", BoxIcon::warning);
@@ -117,6 +141,8 @@ void OpenFile::becomeSaved(const std::string& path) {
   state.fileHasName = true;
   witness_.remember(path);
   desk_.window.setTitle("Kestra B [ " + path + " ]");
+  if (onSaved) onSaved(path);
+  if (desk_.onFile) desk_.onFile();
 }
 
 }  // namespace kestra

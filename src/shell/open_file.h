@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -27,13 +28,22 @@ class OpenFile {
   // been told in a box.
   void take(const std::string& path);
 
+  // Takes input that was not saved in place of what the screens hold: of the control file of that name in the project,
+  // or of a file without a name. It counts as edited.
+  void takeUnsaved(const std::string& name, const ControlSnapshot& input);
+
   // Writes the screens to a file and makes it the open one. False after a box, or when the user does not want to
   // replace what another program has written there; `title` is that of the question.
   bool write(const std::string& path, const std::string& title);
 
+  std::function<void()> onPutAway;                       // what the screens held before belongs to nobody any more
+  std::function<void()> beforeWrite;                     // the screens are about to be written
+  std::function<void(const std::string& path)> onSaved;  // they were
+
  private:
   bool inProject(const std::string& path) const;
   void setInitialValues();
+  void takeAs(const std::string& path, const std::function<void()>& fill);
   void takeJob();
   void becomeSaved(const std::string& path);
 

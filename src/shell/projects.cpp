@@ -129,6 +129,7 @@ bool Projects::isWithin(const std::string& directory) const {
 // Closes all windows of the project and forgets its file.
 void Projects::closeWindows() {
   ApplicationState& state = context_.state;
+  if (onLeaving) onLeaving();
   UnloadAllScreens(inputs_);
   state.bExiting = true;
   top_.windows().unloadOthers();

@@ -38,6 +38,7 @@ class Projects {
   void leave();    // closes the project's windows: no project is open
   void release();  // lets other programs have it
 
+  std::function<void()> onLeaving;  // the open project is about to be closed
   std::function<void()> onChanged;  // another project is open now, or none
 
   bool isOpen(const std::string& directory) const;    // whatever links lead there

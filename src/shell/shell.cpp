@@ -33,6 +33,8 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
       errorTable(context, input),
       fileDesk{context, input, controlFiles, topScreen, inputWindow, output, progress, errorTable},
       commands(fileDesk, projects, applicationDirectory),
+      autosave(fileDesk, commands.file),
+      runInputs(fileDesk),
       about("frmAbout", "About Kestra B", kAbout),
       disclaimer("frmDisclaimer", "Disclaimer", kDisclaimer),
       graphs(context, lines),
@@ -56,6 +58,8 @@ Shell::Shell(ScreenContext& context, const std::string& applicationDirectory)
     };
   }
   topScreen.onEnd = [this] { end(); };
+  graphs.context.inputChanged = [this](const std::string& controlFile) { return runInputs.changed(controlFile); };
+  projects.onLeaving = [this] { autosave.letGo(); };
   topScreen.windows().enter(WindowSlot::input, inputWindow, &inputWindow.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::editor, editor, &editor.mnuWindowsArray);
   topScreen.windows().enter(WindowSlot::outputGraph, graphs.output, &graphs.output.mnuWindowsArray);
@@ -101,6 +105,7 @@ void Shell::openCommandLine(std::string path) {
 }
 
 void Shell::end() {
+  autosave.letGo();
   projects.release();
   topScreen.saveRecentProjects();
   UnloadAllScreens(input.context);

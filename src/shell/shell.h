@@ -9,11 +9,13 @@
 #include "screens/input_screen_set.h"
 #include "screens/screen_context.h"
 #include "screens/text_screen.h"
+#include "shell/autosave.h"
 #include "shell/frm_error_table.h"
 #include "shell/frm_kestra.h"
 #include "shell/frm_top_screen.h"
 #include "shell/project_screens.h"
 #include "shell/projects.h"
+#include "shell/run_inputs.h"
 #include "shell/window_commands.h"
 #include "summary/summary_fields.h"
 #include "tools/frm_editor.h"
@@ -40,6 +42,8 @@ class Shell {
   frmErrorTable errorTable;
   FileDesk fileDesk;
   WindowCommands commands;  // of the input window
+  Autosave autosave;
+  RunInputs runInputs;
   TextScreen about;
   TextScreen disclaimer;
 

@@ -21,6 +21,8 @@ class RunKeeper {
   virtual void showText(const std::string& path, bool ofInstance) = 0;
   virtual void showGraphs(const std::string& path, bool ofInstance) = 0;
   virtual void showPreview(const std::string& title, const CanvasLog& drawing) = 0;
+  // Whether the screens hold that control file with another input than its run was made from.
+  virtual bool screensDiffer(const std::string& controlFile) = 0;
   virtual void forgetShown() = 0;  // all runs are gone: the viewers show none
 };
 

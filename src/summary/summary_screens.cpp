@@ -42,6 +42,12 @@ void SummaryScreens::followStore() {
   if (table.loaded()) table.BuildTable();
 }
 
+void SummaryScreens::followInputs() {
+  for (SummaryTableScreen* each : std::initializer_list<SummaryTableScreen*>{&table, &auxTable}) {
+    if (each->loaded()) each->followInputs();
+  }
+}
+
 void SummaryScreens::viewSpillway(const std::string& folder, int spillway) {
   context.host().unload(auxTable);
   context.host().load(auxTable);

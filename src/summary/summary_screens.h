@@ -24,6 +24,7 @@ class SummaryScreens {
   void closeAll();  // another project is open: what is on show belongs to none
   // The store has changed: a table that is open shows it.
   void followStore();
+  void followInputs();  // the input of a run has: likewise
 
  private:
   void viewSpillway(const std::string& folder, int spillway);

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "results/input_digest.h"
 #include "results/result_files.h"
 
 namespace kestra {

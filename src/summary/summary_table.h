@@ -24,8 +24,6 @@ struct SummaryTable {
   std::vector<Row> rows;
 };
 
-inline constexpr const char* kInputChanged = "input changed since this run";
-
 SummaryTable makeSummaryTable(const ShownRows& rows, const SummarySelection& selection,
                               const FieldCatalogues& catalogues);
 

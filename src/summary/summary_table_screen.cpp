@@ -152,11 +152,20 @@ void SummaryTableScreen::markChangedInputs(ShownRows& rows) {
     if (isNew) {
       const std::string base = placeOf(places, row.entry.name).run;
       const auto [file, isNewFile] = ofFile.try_emplace(base);
-      if (isNewFile) file->second = !base.empty() && inputHasChanged(files, base + ".KSC");
+      if (isNewFile && !base.empty()) {
+        const std::string input = base + ".KSC";
+        file->second = inputHasChanged(files, input) || context_.runs.screensDiffer(input);
+      }
       known->second = file->second;
     }
     row.inputChanged = known->second;
   }
+}
+
+void SummaryTableScreen::followInputs() {
+  markChangedInputs(shown_);
+  markChangedInputs(all_);
+  fillGrids();
 }
 
 void SummaryTableScreen::GetFileToOpen() {

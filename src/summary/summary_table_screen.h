@@ -51,6 +51,7 @@ class SummaryTableScreen : public Screen {
   // Adds the rows of entries `first` to `last`, from 1, to those of the table; a last of 0: of the first alone. A fault
   // outside of the entries.
   void StoreValues(std::size_t first, std::size_t last);
+  void followInputs();  // tells anew whose input has changed
   // Works out which text and which graphs the selected row leads to; empty without one.
   void GetFileToOpen();
 

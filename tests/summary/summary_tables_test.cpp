@@ -143,6 +143,11 @@ TEST_F(SummaryTables, sayWhereTheInputHasChangedSinceTheRun) {
   open();
   EXPECT_EQ(rowsOf(table.metaSum),
             (Texts{"Name|Type|Input", "dam|Single Instance|input changed since this run", "pond|Single Instance|"}));
+  files.put("/p/dam.KSC", "KESTRA\n");
+  keeper.edited = "/p/pond.KSC";
+  screens.followInputs();
+  EXPECT_EQ(rowsOf(table.metaSum),
+            (Texts{"Name|Type|Input", "dam|Single Instance|", "pond|Single Instance|input changed since this run"}));
 }
 
 TEST_F(SummaryTables, ofASpillwayShowTheDigestsOnDisk) {

@@ -36,12 +36,14 @@ struct RecordingRunKeeper : RunKeeper {
   void showPreview(const std::string& title, const CanvasLog& drawing) override {
     calls.push_back("preview " + title + ", " + std::to_string(drawing.calls().size()) + " calls");
   }
+  bool screensDiffer(const std::string& controlFile) override { return controlFile == edited; }
   void forgetShown() override { calls.emplace_back("forget"); }
 
   std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
 
   MemoryFileSystem& files;
   std::vector<std::string> calls;
+  std::string edited;  // the control file that the screens hold changed
 };
 
 // The screens of the summary over a store in memory: a dam's fields Title, Crest, Peak and an instance's Name, Stress,
