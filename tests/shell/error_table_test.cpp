@@ -129,7 +129,7 @@ TEST_F(ErrorTable, leadsToTheTabOfAFinding) {
   load("frmPSConduit");
   Tabs& tabs = desk.shell.input.psConduit.SSTab1;
   for (const auto& [tab, index] :
-       {std::pair{"3", 2}, std::pair{"1", 0}, std::pair{"2", 1}, std::pair{"0", 1}, std::pair{"9", 1}}) {
+       {std::pair{"3", 2}, std::pair{"1", 0}, std::pair{"2", 1}, std::pair{"0", 0}, std::pair{"9", 0}}) {
     show(std::string("F    7    ") + tab + "         0    1\r\n");
     goFrom(1);
     EXPECT_EQ(tabs.index(), index) << tab;
@@ -137,7 +137,7 @@ TEST_F(ErrorTable, leadsToTheTabOfAFinding) {
 }
 
 TEST_F(ErrorTable, saysThatTheScreenIsNotLoaded) {
-  show("F    7    1         0    1\r\nF    0    0         0    0\r\n");
+  show("F    3    1         0    1\r\nF    0    0         0    0\r\n");
   for (const int row : {1, 2}) {
     goFrom(row);
     ASSERT_EQ(desk.boxes.shown.size(), 1U);
