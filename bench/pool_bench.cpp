@@ -101,6 +101,7 @@ std::string damText(int points, double hours, bool breach) {
   std::string text =
       breach ? "OPTION    COEFF     EARTH     \r\nHCMODEL   1                   8                   0         16\r\n"
              : "OPTION    COEFF     EARTH               NOBREACH\r\n";
+  text.insert(0, "KESTRA    01/01/2009Bench\r\n");
   text += "HYD       Flood     " + PadField(decimalNumber(hours / points, 8), 10) + "0         0C        \r\n";
   for (int i = 0; i < points; ++i) {
     if (i % 5 == 0) text += std::string(i == 0 ? "" : "\r\n") + std::string(20, ' ');

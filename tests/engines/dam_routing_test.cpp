@@ -85,10 +85,9 @@ TEST(RouteDam, comesToTheEndOfAFineTableOfFewPoints) {
 TEST(RouteDam, findsThePeakUnderARatingThatRisesLikeAWall) {
   RoutingInput dam = sampleDam();
   dam.outlets.auxiliary[0] = RatingCurve({25, 25.5, 40}, {0, 1e7, 1e7}, RatingCurve::Shape::straight);
-  const RoutingResult result = routeDam(dam);
-  EXPECT_LT(result.outflow.value, 3000);
+  EXPECT_TRUE(isClose(routeDam(dam).outflow.value, 3000));
   dam.stepShare = 0.5;
-  EXPECT_TRUE(isClose(routeDam(dam).outflow.value, result.outflow.value));
+  EXPECT_TRUE(isClose(routeDam(dam).outflow.value, 3000));
 }
 
 TEST(RouteDam, findsNoFaultInTheVolumesWithoutWater) {
