@@ -42,6 +42,7 @@ class EntryList {
   SummaryEntry& named(const std::string& name, std::size_t* place = nullptr);
 
   void clear();
+  void reserve(std::size_t count) { entries_.reserve(count); }
   // Takes entries out. A name that is not there is passed over.
   void discard(const std::vector<std::string>& names);
   // Brings the instances of each run together, behind the first of them; the order is otherwise kept. Fewer than three

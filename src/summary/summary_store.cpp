@@ -57,6 +57,7 @@ void SummaryStore::LoadSummaryStore() {
   SummaryFile file = readSummaryFile(text.value());
   selection_ = std::move(file.selection);
   DigestPlaces places(ports_.files, state_.projectDir);
+  entries_.reserve(file.entryNames.size());
   for (const std::string& name : file.entryNames) loadEntry(places, name);
   damPath_.clear();
   if (!file.understood) tellUnreadable();

@@ -97,8 +97,10 @@ void SummaryTableScreen::showList() {
   fillGrids();
 }
 
-SummaryTable SummaryTableScreen::table() const {
-  return makeSummaryTable(rowsOnShow(), context_.store.selection(), context_.store.catalogues());
+SummaryTable SummaryTableScreen::table() {
+  SummarySelection selection = context_.store.selection();
+  if (damGrid() == nullptr) selection.selectedFields[static_cast<std::size_t>(SummaryLevel::dam)].clear();
+  return makeSummaryTable(rowsOnShow(), selection, context_.store.catalogues());
 }
 
 // The entry that was selected stays so, in its row where it still stands there.

@@ -101,7 +101,7 @@ class SummaryTableScreen : public Screen {
   void viewGraphs();
   void viewText();
   void markChangedInputs(ShownRows& rows);
-  SummaryTable table() const;
+  SummaryTable table();
 
   std::string header_;
   ShownRows shown_;

@@ -96,7 +96,7 @@ INCLUDE_FAULTS = {
         "<windows.h> is a header of the system, which is for native only"),
     "the JSON library in the core": (
         "src/shell/shell.cpp", "#include <nlohmann/json.hpp>",
-        "<nlohmann/json.hpp> is for automation and cli and control and desktop only"),
+        "<nlohmann/json.hpp> is for automation and cli and control and desktop and summary only"),
     "the command line library in a script's reader": (
         "src/automation/json.cpp", "#include <CLI/CLI.hpp>", "<CLI/CLI.hpp> is for cli only"),
 }

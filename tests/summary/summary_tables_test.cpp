@@ -132,6 +132,35 @@ TEST_F(SummaryTables, areExportedWithTabsWholeOrNotAtAll) {
             "dam1_3\tMean\t\t150.5\t0.4\r\npond\tSingle Instance\t\t80\t\r\n");
 }
 
+TEST_F(SummaryTables, areExportedInTheFormThatTheNameTells) {
+  putSamples();
+  open();
+  const std::pair<const char*, const char*> cases[] = {
+      {"/p/a.csv", "Name,Type,Input"}, {"/p/a.json", "[\n  {\n    \"name\""}, {"/p/a.XLSX", "PK\3\4"}};
+  for (const auto& [path, beginning] : cases) {
+    choose(path);
+    table.mnuExport.click();
+    EXPECT_EQ(files.content(path).value_or("none").substr(0, std::string(beginning).size()), beginning) << path;
+  }
+  choose("/none/a.csv");
+  table.mnuExport.click();
+  EXPECT_EQ(takeBoxes(), Texts{"Error Message: /none: No such file or directory"});
+}
+
+TEST_F(SummaryTables, arePrintedWithTheirTitle) {
+  putSamples();
+  open();
+  table.mnuPrint.click();
+  EXPECT_EQ(printer.printed, "");
+  dialogs.prints = {PrintChoice()};
+  table.mnuPrint.click();
+  EXPECT_EQ(printer.printed, "form 2, 1123x794, 1: Summary Table, page, copies 1");
+  printer.jammed = true;
+  dialogs.prints = {PrintChoice()};
+  table.mnuPrint.click();
+  EXPECT_EQ(takeBoxes(), Texts{"Printer Error: Unable to print the table, check printer."});
+}
+
 TEST_F(SummaryTables, sayWhereTheInputHasChangedSinceTheRun) {
   putEntries({"dam", "pond"});
   putDam("dam", "1");
@@ -165,6 +194,10 @@ TEST_F(SummaryTables, ofASpillwayShowTheDigestsOnDisk) {
   EXPECT_EQ(rowsOf(aux.sumTable),
             (Texts{"Name|Stress", "dam1_0|0.1", "dam1_1|0.2", "dam1_2|0.3", "dam1_3|0.4", "dam1_10|0.9"}));
   EXPECT_EQ(aux.find("damSum"), nullptr);
+  choose("/p/out.csv");
+  aux.mnuExport.click();
+  EXPECT_EQ(files.content("/p/out.csv")->substr(0, 66),
+            "Name,Type,Input,Stress\r\ndam1_0,Single Instance,,0.1\r\ndam1_1,Single");
   aux.cmdViewDam.click();
   EXPECT_EQ(front(), "frmSummaryTable");
 }
