@@ -1,5 +1,6 @@
 #include "screens/dam_picture.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -33,7 +34,8 @@ void fill(CanvasControl& canvas, const Slab& slab) {
     const double part = (low - slab.low) / (slab.high - slab.low);
     const double left = slab.leftLow + part * (slab.leftHigh - slab.leftLow);
     const double right = slab.rightLow + part * (slab.rightHigh - slab.rightLow);
-    canvas.FilledBox(left, low, right, low + kBand);
+    // Each reaches under the next one, so that nothing shines through where they meet between two pixels.
+    canvas.FilledBox(left, low, right, std::min(low + 2 * kBand, slab.high));
   }
 }
 

@@ -36,15 +36,19 @@ int work(const QString& controlFile, const QString& directory) {
   window.setGeometry(QRect(QPoint(0, 0), kSize));
   const auto at = [&directory](const char* name) { return directory + QLatin1Char('/') + QLatin1String(name); };
 
-  bool taken = take(window, at("input-window.png"));
-  application.host.show(shell.input.damSurface);
-  taken = take(window, at("dam-surface.png")) && taken;
-  application.host.hide(shell.input.damSurface);
+  const auto show = [&application](Screen& screen) { application.host.show(screen); };
+  const auto hide = [&application](Screen& screen) { application.host.hide(screen); };
+
+  show(shell.input.damSurface);
+  bool taken = take(window, at("dam-surface.png"));
+  hide(shell.input.damSurface);
+  show(shell.input.hydrographData);
+  taken = take(window, at("hydrograph.png")) && taken;
+  hide(shell.input.hydrographData);
   if (!application.builds.BuildMyFiles(true)) return 1;
   shell.graphs.output.OpenFile(application.state.currentFile);
   QTest::qWait(kPatience);
   shell.inputWindow.mnuTile.click();
-  shell.graphs.output.mnuGraph_Click(0);
   taken = take(window, at("graphs.png")) && taken;
   return taken ? 0 : 1;
 }

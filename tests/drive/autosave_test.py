@@ -30,7 +30,7 @@ def question(name, answer):
             "icon": "question", "buttons": ["Yes", "No", "Cancel"], "answer": answer}
 
 
-class Unsaved(Flow):
+class Project(Flow):
     def setUp(self):
         super().setUp()
         self.dam = self.make_project("dam")
@@ -52,6 +52,8 @@ class Unsaved(Flow):
         names = os.listdir(folder) if os.path.isdir(folder) else []
         return sorted(name for name in names if name.startswith("unsaved-"))
 
+
+class Unsaved(Project):
     def left_behind(self, title):
         """A killed program leaves this title."""
         drive = self.drive(self.file)
@@ -157,7 +159,7 @@ class Victim:
         return max((edit for edit, when in self.answered.items() if when + DELAY < self.sent), default=0)
 
 
-class Killed(Unsaved):
+class Killed(Project):
     def edit_in(self, title):
         found = re.fullmatch(r"edit (\d+)", title)
         return int(found[1]) if found else 0
