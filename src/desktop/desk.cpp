@@ -264,7 +264,10 @@ void Desk::followMenus() {
 
 void Desk::followTitle(Screen& screen) {
   const QString title = shown(screen.title());
-  if (&screen == &application_.shell.topScreen) return setWindowTitle(title);
+  if (&screen == &application_.shell.topScreen) {
+    setWindowTitle(title);
+    return area_->setBackground(colorOf(screen.backColor()));
+  }
   windowOf(screen).setWindowTitle(title);
 }
 
@@ -280,6 +283,7 @@ void Desk::restorePlace() {
   const auto kept = application_.ports.settings.get(kWindowSection, "geometry", {});
   if (!kept.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(kept)));
   const QRect space = screen()->availableGeometry();
+  if (space.contains(geometry())) return;
   resize(size().boundedTo(space.size()));
   const auto within = [](int at, int least, int most) { return std::max(least, std::min(at, most)); };
   move(within(x(), space.left(), space.right() + 1 - width()), within(y(), space.top(), space.bottom() + 1 - height()));
