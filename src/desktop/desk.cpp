@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -103,7 +104,10 @@ void Desk::closeEvent(QCloseEvent* event) {
 }
 
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::Close) return QMainWindow::eventFilter(watched, event);
+  const bool dialog = watched == dialog_ || watched == progress_;
+  const bool escapes = dialog && event->type() == QEvent::KeyPress &&
+                       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;  // closes it without saying so
+  if (event->type() != QEvent::Close && !escapes) return QMainWindow::eventFilter(watched, event);
   Screen* screen = watched == dialog_ ? modal_ : nullptr;
   if (watched == progress_) screen = &application_.shell.progress;
   for (const auto& [shownScreen, window] : windows_)

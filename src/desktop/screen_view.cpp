@@ -33,7 +33,6 @@ ScreenView::ScreenView(Screen& screen, UserAction act) : screen_(screen), act_(s
   giveTablesTheirMenu();
   joinSketch();
   resized_.setSingleShot(true);
-  resized_.setInterval(kResizeMilliseconds);
   connect(&resized_, &QTimer::timeout, this, [this] { tellSize(); });
   screen_.addObserver(*this);
 }
@@ -60,7 +59,7 @@ void ScreenView::screenChanged(Screen& screen) {
 
 void ScreenView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  resized_.start();
+  resized_.start(isVisible() ? kResizeMilliseconds : 0);
 }
 
 void ScreenView::tellSize() {

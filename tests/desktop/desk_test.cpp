@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QTableView>
+#include <QTimer>
 
 #include "desktop/shown_desk.h"
 
@@ -190,6 +191,26 @@ TEST(Desk, offersTheEditMenuUnderTheRightButtonOfATable) {
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(told(menu->actions().first()->objectName()), "mnuUndo");
   QApplication::activePopupWidget()->close();
+}
+
+TEST(Desk, closesAModalScreenByItsKeyAsByItsFrame) {
+  ShownDesk desk;
+  frmHydrographSelect& choice = desk.shell.input.hydrographSelect;
+  bool closed = true;
+  QTimer::singleShot(0, [&] {
+    QWidget* const dialog = desk.window.viewOf(choice).window();
+    EXPECT_EQ(QApplication::activeModalWidget(), dialog);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+  constexpr int kPatience = 2000;
+  QTimer patience;
+  QObject::connect(&patience, &QTimer::timeout, [&] {
+    closed = false;
+    desk.app.host.hide(choice);
+  });
+  patience.start(kPatience);
+  desk.app.host.showModal(choice);
+  EXPECT_TRUE(closed);
 }
 
 TEST(Desk, letsNothingBeReachedBesideTheProgress) {

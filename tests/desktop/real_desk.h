@@ -93,7 +93,8 @@ class BoxGuard {
 
 // The program as it is started, in a directory of its own, on real files, with the real engine beside it.
 struct RealDesk {
-  RealDesk() {
+  explicit RealDesk(const QString& programs = QStringLiteral(KESTRA_BIN_DIR))
+      : ports({{}, programs, shown(folder.at("settings.ini"))}) {
     std::filesystem::current_path(folder.path());
     window.start({});
     QTest::qWait(0);
@@ -128,7 +129,7 @@ struct RealDesk {
 
   std::filesystem::path before = std::filesystem::current_path();
   TempDirectory folder;
-  QtDesk ports{{{}, QStringLiteral(KESTRA_BIN_DIR), shown(folder.at("settings.ini"))}};
+  QtDesk ports;
   Application app{ports.ports(), ports.applicationDirectory()};
   Shell& shell = app.shell;
   Desk window{app};

@@ -204,6 +204,38 @@ TEST(Session, opensAgainWhatItHasSaved) {
   EXPECT_EQ(takeWarnings(), "");
 }
 
+// An engine that would run for an hour.
+void putHangingEngine(const std::string& folder) {
+  const std::string engine = folder + "/KestraSim.exe";
+  std::ofstream(engine) << "#!/bin/sh\nexec sleep 3600\n";
+  std::filesystem::permissions(engine, std::filesystem::perms::owner_all);
+}
+
+TEST(Session, stopsAnEngineThatHangs) {
+  const TempDirectory programs;
+  putHangingEngine(programs.path());
+  RealDesk desk(shown(programs.path()));
+  makeProject(desk.shell, desk.folder.path(), "pond");
+  QTest::qWait(0);
+  const std::string file = desk.folder.at("pond/dam.KSC");
+  std::ofstream(file, std::ios::binary) << example();
+  desk.shell.commands.file.open(file);
+  frmProgress& progress = desk.shell.progress;
+  int looks = 0;
+  QTimer stopping;
+  QObject::connect(&stopping, &QTimer::timeout, [&] {
+    if (!progress.visible() || ++looks < 3) return;  // it is on show, and the window goes on living
+    EXPECT_EQ(QApplication::activeModalWidget(), desk.window.viewOf(progress).window());
+    desk.picture("progress");
+    if (!progress.stopRequested()) desk.click(progress.cmdStop);
+  });
+  stopping.start(50);
+  desk.key(Qt::Key_F5, {});
+  EXPECT_GE(looks, 3);
+  EXPECT_EQ(progress.lblTold.caption(), "Stopped while KestraSim.exe ran.");
+  EXPECT_FALSE(std::filesystem::exists(desk.folder.at("pond/dam.OUT")));
+}
+
 TEST(Session, tellsInARealBoxWhatIsWrong) {
   RealDesk desk;
   desk.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
