@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kTwipsPerInch = 1440;
 constexpr QSize kUsualSize{1180, 820};
+constexpr QSize kFrame{16, 48};  // room for the frame that the system puts round a window
 constexpr const char* kWindowSection = "Window";
 
 }  // namespace
@@ -288,9 +289,11 @@ void Desk::restorePlace() {
   if (!kept.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(kept)));
   const QRect space = screen()->availableGeometry();
   if (space.contains(geometry())) return;
-  resize(size().boundedTo(space.size()));
-  const auto within = [](int at, int least, int most) { return std::max(least, std::min(at, most)); };
-  move(within(x(), space.left(), space.right() + 1 - width()), within(y(), space.top(), space.bottom() + 1 - height()));
+  const QSize most = space.size() - kFrame;
+  resize(size().boundedTo(most));
+  const auto within = [](int at, int least, int greatest) { return std::max(least, std::min(at, greatest)); };
+  move(within(x(), space.left(), space.left() + most.width() - width()),
+       within(y(), space.top(), space.top() + most.height() - height()));
 }
 
 }  // namespace kestra
