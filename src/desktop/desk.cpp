@@ -27,7 +27,6 @@ constexpr const char* kWindowSection = "Window";
 Desk::Desk(Application& application) : application_(application), area_(new QMdiArea(this)) {
   setObjectName(QStringLiteral("desk"));
   setCentralWidget(area_);
-  setWindowIcon(QIcon(QStringLiteral(":/pictures/dam.svg")));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   late_.setSingleShot(true);
