@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -19,6 +20,7 @@ namespace {
 constexpr int kTwipsPerInch = 1440;
 constexpr QSize kUsualSize{1180, 820};
 constexpr int kLookMs = 500;
+constexpr QSize kFrame{16, 48};  // room for the frame that the system puts round a window
 constexpr const char* kWindowSection = "Window";
 
 }  // namespace
@@ -109,7 +111,10 @@ void Desk::closeEvent(QCloseEvent* event) {
 }
 
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::Close) return QMainWindow::eventFilter(watched, event);
+  const bool dialog = watched == dialog_ || watched == progress_;
+  const bool escapes = dialog && event->type() == QEvent::KeyPress &&
+                       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;  // closes it without saying so
+  if (event->type() != QEvent::Close && !escapes) return QMainWindow::eventFilter(watched, event);
   Screen* screen = watched == dialog_ ? modal_ : nullptr;
   if (watched == progress_) screen = &application_.shell.progress;
   for (const auto& [shownScreen, window] : windows_)
@@ -270,7 +275,10 @@ void Desk::followMenus() {
 
 void Desk::followTitle(Screen& screen) {
   const QString title = shown(screen.title());
-  if (&screen == &application_.shell.topScreen) return setWindowTitle(title);
+  if (&screen == &application_.shell.topScreen) {
+    setWindowTitle(title);
+    return area_->setBackground(colorOf(screen.backColor()));
+  }
   windowOf(screen).setWindowTitle(title);
 }
 
@@ -294,9 +302,12 @@ void Desk::restorePlace() {
   const auto kept = application_.ports.settings.get(kWindowSection, "geometry", {});
   if (!kept.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(kept)));
   const QRect space = screen()->availableGeometry();
-  resize(size().boundedTo(space.size()));
-  const auto within = [](int at, int least, int most) { return std::max(least, std::min(at, most)); };
-  move(within(x(), space.left(), space.right() + 1 - width()), within(y(), space.top(), space.bottom() + 1 - height()));
+  if (space.contains(geometry())) return;
+  const QSize most = space.size() - kFrame;
+  resize(size().boundedTo(most));
+  const auto within = [](int at, int least, int greatest) { return std::max(least, std::min(at, greatest)); };
+  move(within(x(), space.left(), space.left() + most.width() - width()),
+       within(y(), space.top(), space.top() + most.height() - height()));
 }
 
 }  // namespace kestra

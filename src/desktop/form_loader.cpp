@@ -4,6 +4,7 @@
 #include <QUiLoader>
 
 #include "desktop/canvas_widget.h"
+#include "desktop/sketch_widget.h"
 
 namespace kestra {
 namespace {
@@ -11,10 +12,12 @@ namespace {
 class Loader : public QUiLoader {
  public:
   QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
-    if (className != QLatin1String("CanvasWidget")) return QUiLoader::createWidget(className, parent, name);
-    auto* const canvas = new CanvasWidget(parent);
-    canvas->setObjectName(name);
-    return canvas;
+    QWidget* made = nullptr;
+    if (className == QLatin1String("CanvasWidget")) made = new CanvasWidget(parent);
+    if (className == QLatin1String("SketchWidget")) made = new SketchWidget(parent);
+    if (made == nullptr) return QUiLoader::createWidget(className, parent, name);
+    made->setObjectName(name);
+    return made;
   }
 };
 

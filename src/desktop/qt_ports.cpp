@@ -46,11 +46,6 @@ std::uint32_t numberOf(const QColor& color) {
          static_cast<std::uint32_t>(color.blue()) << 16U;
 }
 
-QColor colorOf(std::uint32_t number) {
-  return {static_cast<int>(number & 255U), static_cast<int>(number >> 8U & 255U),
-          static_cast<int>(number >> 16U & 255U)};
-}
-
 QWidget* parentWindow() {
   return QApplication::activeWindow();
 }

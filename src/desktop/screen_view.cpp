@@ -6,10 +6,10 @@
 #include <QTableView>
 #include <QVBoxLayout>
 #include <QVariant>
-#include <algorithm>
 
 #include "desktop/form_loader.h"
 #include "desktop/qt_text.h"
+#include "desktop/sketch_widget.h"
 
 namespace kestra {
 namespace {
@@ -31,8 +31,8 @@ ScreenView::ScreenView(Screen& screen, UserAction act) : screen_(screen), act_(s
   menus_ = form_->findChild<QMenuBar*>();
   bindAll();
   giveTablesTheirMenu();
+  joinSketch();
   resized_.setSingleShot(true);
-  resized_.setInterval(kResizeMilliseconds);
   connect(&resized_, &QTimer::timeout, this, [this] { tellSize(); });
   screen_.addObserver(*this);
 }
@@ -49,6 +49,7 @@ QWidget* ScreenView::widgetOf(const Control& control) const {
 void ScreenView::controlChanged(Control& control, Property property) {
   const auto at = bindings_.find(&control);
   if (at != bindings_.end()) at->second->follow(property);
+  if (sketch_ != nullptr && control.kind() == ControlKind::table) sketch_->update();
 }
 
 void ScreenView::screenChanged(Screen& screen) {
@@ -58,7 +59,7 @@ void ScreenView::screenChanged(Screen& screen) {
 
 void ScreenView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  resized_.start();
+  resized_.start(isVisible() ? kResizeMilliseconds : 0);
 }
 
 void ScreenView::tellSize() {
@@ -69,17 +70,28 @@ void ScreenView::tellSize() {
   act_([this, across, down] { screen_.Form_Resize(across, down); });
 }
 
-// A table's menu under the right button is the one in the bar that copies and pastes.
+// The form names the menu of the bar that a table has under the right button too.
 void ScreenView::giveTablesTheirMenu() {
-  for (QMenu* menu : form_->findChildren<QMenu*>()) {
-    const QList<QAction*> entries = menu->actions();
-    const auto pastes = [](const QAction* entry) { return entry->objectName() == QLatin1String("mnuPaste"); };
-    if (std::none_of(entries.begin(), entries.end(), pastes)) continue;
-    for (QTableView* table : form_->findChildren<QTableView*>()) {
-      table->setContextMenuPolicy(Qt::CustomContextMenu);
-      connect(table, &QWidget::customContextMenuRequested, menu,
-              [menu, table](const QPoint& at) { menu->popup(table->viewport()->mapToGlobal(at)); });
-    }
+  for (QTableView* table : form_->findChildren<QTableView*>()) {
+    auto* const menu = form_->findChild<QMenu*>(table->property("contextMenu").toString());
+    if (menu == nullptr) continue;
+    table->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(table, &QWidget::customContextMenuRequested, menu,
+            [menu, table](const QPoint& at) { menu->popup(table->viewport()->mapToGlobal(at)); });
+  }
+}
+
+// The form tells what a sketch shows: "grdTable columns 1 2", the table, which way its points run, and its two lines.
+void ScreenView::joinSketch() {
+  for (QWidget* widget : form_->findChildren<QWidget*>()) {
+    if (sketch_ == nullptr) sketch_ = dynamic_cast<SketchWidget*>(widget);
+  }
+  if (sketch_ == nullptr) return;
+  for (const QString& source : sketch_->property("shows").toString().split(QLatin1Char(';'))) {
+    const QStringList words = source.split(QLatin1Char(' '));
+    const auto* const table = dynamic_cast<const Table*>(screen_.find(told(words.value(0))));
+    const bool alongColumns = words.value(1) == QLatin1String("columns");
+    if (table != nullptr) sketch_->add({table, alongColumns, words.value(2).toInt(), words.value(3).toInt()});
   }
 }
 

@@ -13,6 +13,8 @@ class QMenuBar;
 
 namespace kestra {
 
+class SketchWidget;
+
 // A screen's window content, made from its form (the .ui file of the screen's name) with every control joined to the
 // widget of its name.
 class ScreenView : public QWidget, public ScreenObserver {
@@ -37,12 +39,14 @@ class ScreenView : public QWidget, public ScreenObserver {
  private:
   void bindAll();
   void giveTablesTheirMenu();
+  void joinSketch();
   void tellSize();
 
   Screen& screen_;
   UserAction act_;
   QWidget* form_ = nullptr;
   QMenuBar* menus_ = nullptr;
+  SketchWidget* sketch_ = nullptr;
   QTimer resized_;
   std::unordered_map<const Control*, std::unique_ptr<Binding>> bindings_;
   std::vector<std::string> unbound_;

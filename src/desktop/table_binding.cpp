@@ -29,7 +29,6 @@ class TableBinding : public Binding {
     view.horizontalHeader()->setVisible(table.fixedRows() > 0);
     view.verticalHeader()->setVisible(table.fixedColumns() > 0);
     view.verticalHeader()->setDefaultSectionSize(view.fontMetrics().height() + kRowMargin);
-    if (table.rows() - table.fixedRows() <= kFewRows) fitHeight();
     view.installEventFilter(this);
     late_.setSingleShot(true);
     late_.setInterval(0);
@@ -59,9 +58,17 @@ class TableBinding : public Binding {
   // A table of few rows is as high as they are.
   void fitHeight() {
     const int rows = table_.rows() - table_.fixedRows();
+    if (rows > kFewRows) return letGrow();
     const int heading = view_.horizontalHeader()->isHidden() ? 0 : view_.horizontalHeader()->sizeHint().height();
     const int bar = view_.horizontalScrollBar()->sizeHint().height();
     view_.setFixedHeight(heading + rows * view_.verticalHeader()->defaultSectionSize() + bar + 2 * view_.frameWidth());
+  }
+
+  void letGrow() {
+    constexpr int kLeastHeight = 120;
+    if (view_.maximumHeight() == QWIDGETSIZE_MAX) return;
+    view_.setMinimumHeight(kLeastHeight);
+    view_.setMaximumHeight(QWIDGETSIZE_MAX);
   }
 
   bool takeKey(const QKeyEvent& press) {
@@ -97,6 +104,7 @@ class TableBinding : public Binding {
   void followCells() {
     following_ = true;
     model_.refresh();
+    fitHeight();
     for (int row = table_.fixedRows(); row < table_.rows(); ++row)
       view_.setRowHidden(row - table_.fixedRows(), !table_.rowShown(row));
     for (int column = table_.fixedColumns(); column < table_.columns(); ++column) {

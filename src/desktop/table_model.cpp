@@ -12,7 +12,7 @@ int TableModel::rowCount(const QModelIndex& parent) const {
 }
 
 int TableModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : table_.columns() - table_.fixedColumns();
+  return parent.isValid() ? 0 : std::max(0, columns_ - table_.fixedColumns());
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
@@ -67,9 +67,10 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 }
 
 void TableModel::refresh() {
-  if (rows_ != table_.rows()) {
+  if (rows_ != table_.rows() || columns_ != table_.columns()) {
     beginResetModel();
     rows_ = table_.rows();
+    columns_ = table_.columns();
     endResetModel();
     return;
   }

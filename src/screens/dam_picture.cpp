@@ -29,13 +29,13 @@ constexpr std::array<Slab, 5> kSlabs = {{{kWater, 10, 39, 0, 60, 0, 60},
 
 void fill(CanvasControl& canvas, const Slab& slab) {
   constexpr double kBand = 0.5;
+  constexpr double kOverlap = 0.3;  // of a band with the next, so that no seam shows
   canvas.ForeColor(slab.color);
   for (double low = slab.low; low < slab.high; low += kBand) {
     const double part = (low - slab.low) / (slab.high - slab.low);
     const double left = slab.leftLow + part * (slab.leftHigh - slab.leftLow);
     const double right = slab.rightLow + part * (slab.rightHigh - slab.rightLow);
-    // Each reaches under the next one, so that nothing shines through where they meet between two pixels.
-    canvas.FilledBox(left, low, right, std::min(low + 2 * kBand, slab.high));
+    canvas.FilledBox(left, low, right, std::min(slab.high, low + kBand + kOverlap));
   }
 }
 

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QTableView>
+#include <QTimer>
 
 #include "desktop/shown_desk.h"
 
@@ -119,23 +120,28 @@ TEST(Desk, showsTheHelpOfTheScreenInFrontByItsKey) {
   EXPECT_EQ(desk.help.topics, (std::vector<std::string>{"html\\DamSurfaceDescription.htm", ""}));
 }
 
-TEST(Desk, comesBackWhereItWasAndNeverOffTheScreen) {
+// The place of a window that is started anew after one was closed at a place.
+QRect placeAfter(const QRect& place) {
   ShownDesk first;
-  const QRect space = first.window.screen()->availableGeometry();
-  first.window.setGeometry(40, 50, 640, 480);
+  first.window.setGeometry(place);
   first.shell.inputWindow.mnuExit.click();
   first.shell.topScreen.mnuExit.click();
   first.window.close();
-  const std::string kept = first.settings.get("Window", "geometry", "");
-  ASSERT_NE(kept, "");
-
   ScriptedDesk ports;
-  ASSERT_TRUE(ports.settings.set("Window", {{"geometry", kept}}));
+  EXPECT_TRUE(ports.settings.set("Window", {{"geometry", first.settings.get("Window", "geometry", "")}}));
   Application again(ports.ports(), "/app");
   Desk second(again);
   second.start({});
-  EXPECT_EQ(second.geometry(), QRect(40, 50, 640, 480));
-  EXPECT_TRUE(space.contains(second.geometry()));
+  return second.geometry();
+}
+
+TEST(Desk, comesBackWhereItWasAndNeverOffTheScreen) {
+  const QRect space = QGuiApplication::primaryScreen()->availableGeometry();
+  const QRect place(space.left() + 40, space.top() + 50, space.width() / 2, space.height() / 2);
+  EXPECT_EQ(placeAfter(place), place);
+  EXPECT_TRUE(space.contains(placeAfter(place.translated(2 * space.width(), 0))));
+  EXPECT_TRUE(space.contains(placeAfter(place.translated(-space.width(), 2 * space.height()))));
+  EXPECT_TRUE(space.contains(placeAfter(QRect(space.topLeft(), 2 * space.size()))));
 }
 
 TEST(Desk, marksTheCellAtFaultWithItsMessage) {
@@ -190,6 +196,26 @@ TEST(Desk, offersTheEditMenuUnderTheRightButtonOfATable) {
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(told(menu->actions().first()->objectName()), "mnuUndo");
   QApplication::activePopupWidget()->close();
+}
+
+TEST(Desk, closesAModalScreenByItsKeyAsByItsFrame) {
+  ShownDesk desk;
+  frmHydrographSelect& choice = desk.shell.input.hydrographSelect;
+  bool closed = true;
+  QTimer::singleShot(0, [&] {
+    QWidget* const dialog = desk.window.viewOf(choice).window();
+    EXPECT_EQ(QApplication::activeModalWidget(), dialog);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+  constexpr int kPatience = 2000;
+  QTimer patience;
+  QObject::connect(&patience, &QTimer::timeout, [&] {
+    closed = false;
+    desk.app.host.hide(choice);
+  });
+  patience.start(kPatience);
+  desk.app.host.showModal(choice);
+  EXPECT_TRUE(closed);
 }
 
 TEST(Desk, letsNothingBeReachedBesideTheProgress) {

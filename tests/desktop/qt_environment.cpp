@@ -21,11 +21,11 @@ void keep(QtMsgType type, const QMessageLogContext& context, const QString& text
   if (type != QtDebugMsg && type != QtInfoMsg && !ofNoDisplay) warnings().append(text);
 }
 
-// The toolkit, without a display, for all tests of the program.
+// The toolkit for all tests of the program; without a display unless KESTRA_DISPLAY is set.
 class Toolkit : public testing::Environment {
  public:
   void SetUp() override {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("KESTRA_DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_RUNTIME_DIR", testing::TempDir().c_str());
     application_ = std::make_unique<QApplication>(count_, arguments_);
     qInstallMessageHandler(keep);

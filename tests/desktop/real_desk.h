@@ -39,6 +39,8 @@ class NextBox {
     return [path](QDialog& dialog) {
       auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
       ASSERT_NE(name, nullptr);
+      QTest::qWait(kSettling);
+      name->setFocus();
       name->clear();
       QTest::keyClicks(name, shown(path));
       QTest::keyClick(name, Qt::Key_Return);
@@ -47,6 +49,7 @@ class NextBox {
 
  private:
   static constexpr int kMilliseconds = 5;
+  static constexpr int kSettling = 100;  // in which a file dialog reads its directory
 
   void look() {
     auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
@@ -62,9 +65,36 @@ class NextBox {
   bool answered_ = false;
 };
 
+// Takes away, and counts as a failure, a box that nobody answers.
+class BoxGuard {
+ public:
+  BoxGuard() {
+    QObject::connect(&timer_, &QTimer::timeout, [this] { look(); });
+    timer_.start(kMilliseconds);
+  }
+
+ private:
+  static constexpr int kMilliseconds = 1000;
+
+  void look() {
+    auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    const bool asks = qobject_cast<QMessageBox*>(box) != nullptr || qobject_cast<QFileDialog*>(box) != nullptr;
+    const bool stays = asks && box == seen_;
+    seen_ = asks ? box : nullptr;
+    if (!stays) return;
+    const auto* const message = qobject_cast<QMessageBox*>(box);
+    ADD_FAILURE() << "nobody answers: " << told(message != nullptr ? message->text() : box->windowTitle());
+    box->reject();
+  }
+
+  QTimer timer_;
+  QPointer<QDialog> seen_;
+};
+
 // The program as it is started, in a directory of its own, on real files, with the real engine beside it.
 struct RealDesk {
-  RealDesk() {
+  explicit RealDesk(const QString& programs = QStringLiteral(KESTRA_BIN_DIR))
+      : ports({{}, programs, shown(folder.at("settings.ini"))}) {
     std::filesystem::current_path(folder.path());
     window.start({});
     QTest::qWait(0);
@@ -84,17 +114,26 @@ struct RealDesk {
     QTest::qWait(0);
   }
   void key(Qt::Key key, Qt::KeyboardModifiers with) {
+    window.activateWindow();
+    QTest::qWait(0);
     QTest::keyClick(&window, key, with);
     QTest::qWait(0);
+  }
+  // Keeps a picture of the window where the run of the tests wants pictures.
+  void picture(const char* name) {
+    const QString pictures = qEnvironmentVariable("KESTRA_SCREENSHOTS");
+    if (pictures.isEmpty()) return;
+    EXPECT_TRUE(window.grab().save(QStringLiteral("%1/%2.png").arg(pictures, QLatin1String(name)))) << name;
   }
   Screen& front() { return *app.host.shown().front(); }
 
   std::filesystem::path before = std::filesystem::current_path();
   TempDirectory folder;
-  QtDesk ports{{{}, QStringLiteral(KESTRA_BIN_DIR), shown(folder.at("settings.ini"))}};
+  QtDesk ports;
   Application app{ports.ports(), ports.applicationDirectory()};
   Shell& shell = app.shell;
   Desk window{app};
+  BoxGuard guard;
 };
 
 }  // namespace kestra
