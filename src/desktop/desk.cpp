@@ -249,6 +249,7 @@ QMdiSubWindow& Desk::windowOf(Screen& screen) {
 }
 
 void Desk::followMenus() {
+  if (modal_ != nullptr || application_.shell.progress.visible()) return;  // no menu can be reached
   QMenuBar* const bar = menuBar();
   QList<QAction*> entries;
   const auto take = [&entries](QMenuBar* menus) {
