@@ -212,13 +212,14 @@ TEST(Desk, offersTheEditMenuUnderTheRightButtonOfATable) {
   QApplication::activePopupWidget()->close();
 }
 
-TEST(Desk, closesAModalScreenByItsKeyAsByItsFrame) {
+TEST(Desk, givesAModalScreenHelpAndClosesItByKeys) {
   ShownDesk desk;
   frmHydrographSelect& choice = desk.shell.input.hydrographSelect;
   bool closed = true;
   QTimer::singleShot(0, [&] {
     QWidget* const dialog = desk.window.viewOf(choice).window();
     EXPECT_EQ(QApplication::activeModalWidget(), dialog);
+    QTest::keyClick(dialog, Qt::Key_F1);
     QTest::keyClick(dialog, Qt::Key_Escape);
   });
   constexpr int kPatience = 2000;
@@ -230,6 +231,7 @@ TEST(Desk, closesAModalScreenByItsKeyAsByItsFrame) {
   patience.start(kPatience);
   desk.app.host.showModal(choice);
   EXPECT_TRUE(closed);
+  EXPECT_EQ(desk.help.topics.size(), 1U);
 }
 
 TEST(Desk, letsNothingBeReachedBesideTheProgress) {
