@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTableView>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -32,6 +33,7 @@ ScreenView::ScreenView(Screen& screen, UserAction act) : screen_(screen), act_(s
   bindAll();
   giveTablesTheirMenu();
   joinSketch();
+  showToolsInUse();
   resized_.setSingleShot(true);
   connect(&resized_, &QTimer::timeout, this, [this] { tellSize(); });
   screen_.addObserver(*this);
@@ -92,6 +94,19 @@ void ScreenView::joinSketch() {
     const auto* const table = dynamic_cast<const Table*>(screen_.find(told(words.value(0))));
     const bool alongColumns = words.value(1) == QLatin1String("columns");
     if (table != nullptr) sketch_->add({table, alongColumns, words.value(2).toInt(), words.value(3).toInt()});
+  }
+}
+
+// A button of a toolbar is down while the entry of the menu that its form names is checked.
+void ScreenView::showToolsInUse() {
+  for (QToolButton* button : form_->findChildren<QToolButton*>()) {
+    const auto* const entry = form_->findChild<QAction*>(button->property("downWith").toString());
+    if (entry == nullptr) continue;
+    const auto follow = [button, entry] { button->setChecked(entry->isChecked()); };
+    button->setCheckable(true);
+    follow();
+    connect(entry, &QAction::changed, button, follow);
+    connect(button, &QToolButton::clicked, button, follow);
   }
 }
 

@@ -40,6 +40,7 @@ class ScreenView : public QWidget, public ScreenObserver {
   void bindAll();
   void giveTablesTheirMenu();
   void joinSketch();
+  void showToolsInUse();
   void tellSize();
 
   Screen& screen_;

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include "desktop/canvas_widget.h"
 #include "desktop/shown_desk.h"
@@ -66,6 +67,17 @@ TEST(GraphScreen, zoomsOutAndMovesByTheToolsOfItsBar) {
   desk.pull(0, desk.at(0, 0.5, 0.4), desk.at(0, 0.4, 0.4));
   EXPECT_GT(desk.graphs.savedWindow(0).Xmin, whole.Xmin);
   EXPECT_EQ(desk.canvas(0).cursor().shape(), Qt::OpenHandCursor);
+}
+
+TEST(GraphScreen, showsWhichToolIsInUse) {
+  GraphDesk desk;
+  const auto isDown = [&desk](Button& tool) { return desk.widgetAs<QToolButton>(tool).isChecked(); };
+  EXPECT_TRUE(isDown(desk.graphs.tlbZoomIn));
+  desk.press(desk.graphs.tlbPan);
+  EXPECT_TRUE(isDown(desk.graphs.tlbPan));
+  EXPECT_FALSE(isDown(desk.graphs.tlbZoomIn));
+  desk.press(desk.graphs.tlbPan);
+  EXPECT_TRUE(isDown(desk.graphs.tlbPan));
 }
 
 TEST(GraphScreen, tellsTheValuesUnderThePressedPointer) {
