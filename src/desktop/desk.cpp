@@ -28,7 +28,6 @@ constexpr const char* kWindowSection = "Window";
 Desk::Desk(Application& application) : application_(application), area_(new QMdiArea(this)) {
   setObjectName(QStringLiteral("desk"));
   setCentralWidget(area_);
-  setWindowIcon(QIcon(QStringLiteral(":/pictures/dam.svg")));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   late_.setSingleShot(true);
@@ -90,7 +89,7 @@ void Desk::run(Screen& screen) {
   view.onScreenChanged = [&screen, &loop] {
     if (!screen.visible()) loop.quit();
   };
-  window.setModal(true);
+  window.setWindowModality(Qt::WindowModal);  // the help stays within reach
   window.show();
   followFocus();
   if (screen.visible()) loop.exec();
@@ -112,8 +111,12 @@ void Desk::closeEvent(QCloseEvent* event) {
 
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
   const bool dialog = watched == dialog_ || watched == progress_;
-  const bool escapes = dialog && event->type() == QEvent::KeyPress &&
-                       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;  // closes it without saying so
+  const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+  if (dialog && key == Qt::Key_F1) {
+    showHelp();
+    return true;
+  }
+  const bool escapes = dialog && key == Qt::Key_Escape;  // closes it without saying so
   if (event->type() != QEvent::Close && !escapes) return QMainWindow::eventFilter(watched, event);
   Screen* screen = watched == dialog_ ? modal_ : nullptr;
   if (watched == progress_) screen = &application_.shell.progress;
@@ -206,7 +209,7 @@ void Desk::placeProgress() {
   }
   if (progress_ == nullptr) {
     progress_ = new QDialog(this);
-    progress_->setModal(true);
+    progress_->setWindowModality(Qt::WindowModal);
     progress_->installEventFilter(this);
     auto* const layout = new QVBoxLayout(progress_);
     layout->addWidget(&viewOf(screen));
@@ -256,6 +259,7 @@ QMdiSubWindow& Desk::windowOf(Screen& screen) {
 }
 
 void Desk::followMenus() {
+  if (modal_ != nullptr || application_.shell.progress.visible()) return;  // no menu can be reached
   QMenuBar* const bar = menuBar();
   QList<QAction*> entries;
   const auto take = [&entries](QMenuBar* menus) {

@@ -89,5 +89,19 @@ TEST(Table, keepsTheTextsOfARowThatIsNotShown) {
   EXPECT_EQ(table.rows(), 3);
 }
 
+TEST(Table, marksACellAtFaultUntilItsTextChanges) {
+  Stage stage;
+  Table table(stage.screen, "grdTable", {3, 3, 1, 1});
+  EXPECT_FALSE(table.fault());
+  table.setFault({2, 1}, "Values must be increasing.");
+  table.setCell(1, 1, "7");
+  table.setCell(2, 1, "");
+  ASSERT_TRUE(table.fault());
+  EXPECT_EQ(table.fault()->at, (CellPosition{2, 1}));
+  EXPECT_EQ(table.fault()->message, "Values must be increasing.");
+  table.setCell(2, 1, "8");
+  EXPECT_FALSE(table.fault());
+}
+
 }  // namespace
 }  // namespace kestra

@@ -100,6 +100,20 @@ TEST(Desk, showsTheMenusOfTheScreenInFront) {
   EXPECT_EQ(menuTitles(desk.window), ofInputWindow);
 }
 
+TEST(Desk, offersTheRecentProjects) {
+  RunningDesk desk;
+  makeProject(desk.shell, "/home", "first");
+  desk.shell.inputWindow.mnuExit.click();
+  Desk window(desk.app);
+  window.start({});
+  const auto* const recent =
+      window.viewOf(desk.shell.topScreen).findChild<QAction*>(QStringLiteral("mnuRecentProject(1)"));
+  ASSERT_NE(recent, nullptr);
+  EXPECT_EQ(recent->text(), QStringLiteral("&1 /home/first"));
+  EXPECT_TRUE(recent->isVisible());
+  EXPECT_EQ(menuTitles(window), (QStringList{"File", "Help"}));
+}
+
 TEST(Desk, laysItsWindowsOutSideBySide) {
   ShownDesk desk;
   desk.show(desk.shell.input.damSurface);
@@ -198,13 +212,14 @@ TEST(Desk, offersTheEditMenuUnderTheRightButtonOfATable) {
   QApplication::activePopupWidget()->close();
 }
 
-TEST(Desk, closesAModalScreenByItsKeyAsByItsFrame) {
+TEST(Desk, givesAModalScreenHelpAndClosesItByKeys) {
   ShownDesk desk;
   frmHydrographSelect& choice = desk.shell.input.hydrographSelect;
   bool closed = true;
   QTimer::singleShot(0, [&] {
     QWidget* const dialog = desk.window.viewOf(choice).window();
     EXPECT_EQ(QApplication::activeModalWidget(), dialog);
+    QTest::keyClick(dialog, Qt::Key_F1);
     QTest::keyClick(dialog, Qt::Key_Escape);
   });
   constexpr int kPatience = 2000;
@@ -216,6 +231,7 @@ TEST(Desk, closesAModalScreenByItsKeyAsByItsFrame) {
   patience.start(kPatience);
   desk.app.host.showModal(choice);
   EXPECT_TRUE(closed);
+  EXPECT_EQ(desk.help.topics.size(), 1U);
 }
 
 TEST(Desk, letsNothingBeReachedBesideTheProgress) {
@@ -226,6 +242,7 @@ TEST(Desk, letsNothingBeReachedBesideTheProgress) {
   ScreenView& view = desk.window.viewOf(desk.shell.progress);
   ASSERT_TRUE(view.isVisible());
   EXPECT_EQ(QApplication::activeModalWidget(), view.window());
+  EXPECT_TRUE(menuTitles(desk.window).contains(QStringLiteral("Summary")));  // no jump of what is below
   desk.press(desk.shell.progress.cmdStop);
   EXPECT_TRUE(desk.shell.progress.stopRequested());
   desk.shell.progress.finish();

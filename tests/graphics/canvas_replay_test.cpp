@@ -161,5 +161,43 @@ TEST(AnSvgFile, holdsWhatTheCanvasShows) {
             "</svg>\n");
 }
 
+struct AGoingReplay : AReplay {
+  std::vector<std::string> more() {
+    brush.painted.clear();
+    going.paint(canvas.log(), brush);
+    return brush.painted;
+  }
+  CanvasReplay going{kUsual, kUsual.width, 1};
+};
+
+TEST_F(AGoingReplay, paintsWhatWasDrawnSinceInTheStateOfThen) {
+  canvas.ForeColor(255);
+  canvas.DrawWidth(3);
+  EXPECT_EQ(more(), (std::vector<std::string>{"ground 688x440 in 16777215"}));
+  canvas.FilledBox(0, 0, 1, 1);
+  EXPECT_EQ(more(), (std::vector<std::string>{"filled 0,0 10,10 in 255 style 0 width 3"}));
+  EXPECT_EQ(more(), std::vector<std::string>());
+  canvas.FilledBox(1, 1, 2, 2);
+  EXPECT_EQ(more(), (std::vector<std::string>{"filled 10,10 20,20 in 255 style 0 width 3"}));
+}
+
+TEST_F(AGoingReplay, beginsAnewOnAWipedCanvasAndOnANewGround) {
+  canvas.FilledBox(0, 0, 1, 1);
+  (void)more();
+  canvas.Cls();
+  EXPECT_EQ(more(), (std::vector<std::string>{"ground 688x440 in 16777215"}));
+  canvas.FilledBox(0, 0, 1, 1);
+  canvas.BackColor(255);
+  EXPECT_EQ(more(), (std::vector<std::string>{"ground 688x440 in 255", "filled 0,0 10,10 in 0 style 0 width 1"}));
+}
+
+TEST_F(AGoingReplay, beginsAnewOnACanvasThatShowsAnother) {
+  canvas.FilledBox(0, 0, 1, 1);
+  (void)more();
+  const CanvasLog same = canvas.log();
+  canvas.show(same);
+  EXPECT_EQ(more().size(), 2U);
+}
+
 }  // namespace
 }  // namespace kestra

@@ -97,6 +97,17 @@ TEST_F(AlongColumns, refusesAStationBelowTheOneBeforeAndBlanksIt) {
   expect({2, 2});
 }
 
+TEST_F(AlongColumns, marksTheCellThatItRefuses) {
+  put(1, 1, "5");
+  put(1, 2, "4.9");
+  enterAt(1, 2);
+  ASSERT_TRUE(table.fault());
+  EXPECT_EQ(table.fault()->at, (CellPosition{1, 2}));
+  EXPECT_EQ(table.fault()->message, "Values must be increasing.");
+  typeInto(table, "6");
+  EXPECT_FALSE(table.fault());
+}
+
 TEST_F(AlongColumns, goesBackToTheStationWhenBothAreMissing) {
   enterAt(2, 1);
   expect({1, 1}, {kMissing});
