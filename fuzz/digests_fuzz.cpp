@@ -28,7 +28,7 @@ void checkDigest(const std::string& text) {
               "a digest has forty lines");
   for (const std::string& field : fields) {
     const std::string line = digestLine(field);
-    fuzzRequire(!trim(line).empty() && charCount(line) <= kDigestWidth, "a line has one to ten characters");
+    fuzzRequire(!line.empty() && charCount(line) <= kDigestWidth, "a line has one to ten characters");
   }
   if (text.find('\r') != std::string::npos) return;
   std::string withReturns;
