@@ -43,15 +43,19 @@ class SpillwayRunReader {
         materials_(input.aux.auxMaterials.at(static_cast<std::size_t>(spillway))),
         place_(place) {}
 
-  // Two walks: how many of the materials are the spillway's own is known from the count of boundaries.
+  // What needs the materials comes behind all else, wherever it stands; and how many of them are the spillway's own is
+  // known from the count of boundaries.
   void read(std::string_view text) {
     eachRecord(text, RunKind::spillway, [this](const ControlRecord& record) {
       if (record.layout->keyword == "ASCOORD") ++boundaries_;
     });
-    eachRecord(text, RunKind::spillway, [this](const ControlRecord& record) {
-      place_ = {record.lineNumber, record.layout->keyword};
-      take(record);
-    });
+    for (const bool ofMaterials : {false, true}) {
+      eachRecord(text, RunKind::spillway, [&](const ControlRecord& record) {
+        if (needsMaterials(record.layout->keyword) != ofMaterials) return;
+        place_ = {record.lineNumber, record.layout->keyword};
+        take(record);
+      });
+    }
   }
 
  private:
@@ -61,8 +65,10 @@ class SpillwayRunReader {
     Handler handler;
   };
 
+  static bool needsMaterials(std::string_view keyword) { return keyword == "ASCOORD" || keyword == "LHS"; }
+
   void take(const ControlRecord& record) {
-    static constexpr auto kHandlers = std::to_array<Entry>({{"QUIL", &SpillwayRunReader::takeName},
+    static constexpr auto kHandlers = std::to_array<Entry>({{"QUIL", &SpillwayRunReader::takeLabel},
                                                             {"POOLDATA", &SpillwayRunReader::put},
                                                             {"ASSPRFL", &SpillwayRunReader::takeProfile},
                                                             {"ASSURFACE", &SpillwayRunReader::takeReaches},
@@ -79,13 +85,16 @@ class SpillwayRunReader {
   void put(const ControlRecord& record) { putFields(fields_, *record.layout, record.line, spillway_); }
 
   // The label stands in the main run as well; there it may be blank in files of other hands.
-  void takeName(const ControlRecord& record) {
+  void takeLabel(const ControlRecord& record) {
     const std::string_view name = record.fields.named("name").text();
-    if (!name.empty() && input_.screens.auxSpillways->label(spillway_).empty()) put(record);
+    if (name.empty() || !input_.screens.auxSpillways->label(spillway_).empty()) return;
+    fields_.put(*findField(record.layout->fields, "name"), name, spillway_);
   }
 
   void takeProfile(const ControlRecord& record) {
-    put(record);
+    takeLabel(record);
+    const FieldText topsoil = record.fields.named("topsoil");
+    if (topsoil.reached()) profile_.txtTopsoil = topsoil.text();
     takePairs(record, profile_.points);
   }
 

@@ -44,8 +44,15 @@ TEST(ReadSpillwayRun, fillsTheProfileOfItsSpillway) {
 TEST(ReadSpillwayRun, keepsALabelThatTheMainRunHasGiven) {
   RunDesk desk;
   desk.screens.auxSpillways.txtsway(0).setText("North");
-  desk.read({"QUIL      02/09/20021         East"});
+  desk.read({"QUIL      02/09/20021         East", "ASSPRFL   41        0.5                 East", "ENDTABLE"});
   EXPECT_EQ(desk.screens.auxSpillways.label(0), "North");
+  EXPECT_EQ(desk.profile().txtTopsoil, "0.5");
+}
+
+TEST(ReadSpillwayRun, takesALabelFromTheProfileWhereNothingElseHasOne) {
+  RunDesk desk;
+  desk.read({"QUIL      02/09/20021", "ASSPRFL   41                            East", "ENDTABLE"});
+  EXPECT_EQ(desk.screens.auxSpillways.label(0), "East");
 }
 
 TEST(ReadSpillwayRun, showsWhatItHasReadOnTheScreenOfTheProfile) {
@@ -162,6 +169,22 @@ TEST(ReadSpillwayRun, readsTheThresholdEquations) {
       "12345");
   desk.read({"ORLEN     1         2         3         4         5         0"});
   EXPECT_TRUE(headcut.optSemiLog.selected());
+}
+
+TEST(ReadSpillwayRun, readsItsRecordsInAnyOrder) {
+  RunDesk desk;
+  desk.readIntegrity(
+      {"LHS       50        7", "          1         5         Normal                        110       5", "ENDTABLE",
+       "ASCOORD   1         Shale     N         450       2.5       Y", "          0         1010      100       1008",
+       "ENDTABLE", "ASMATERIAL", "          1         10        0.002     30        PDF       0.05", "ENDTABLE"});
+  const AuxMaterials& materials = desk.materials();
+  ASSERT_EQ(materials.count, 1);
+  EXPECT_EQ(materials.material(1).values, (std::array<std::string, 6>{"10", "0.002", "30", "", "PDF", "0.05"}));
+  EXPECT_EQ(materials.material(1).description, "Shale");
+  EXPECT_EQ(materials.material(1).points, (std::vector<StationElevation>{{"0", "1010"}, {"100", "1008"}}));
+  EXPECT_EQ(desk.profile().txtBarrier, "450");
+  EXPECT_EQ(materials.material(1).distribution(MaterialProperty::dryDensity),
+            (Distribution{"Normal", {"110", "5", "", ""}, true}));
 }
 
 constexpr const char* kSampleRow = "          1         6         Triangular                    1         2         3";
