@@ -89,6 +89,7 @@ class LinesBinding : public Binding {
   void follow(Property property) override {
     followWidget(property);
     lines_.setReadOnly(box_.locked());
+    if (box_.locked()) lines_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     if (property != Property::value) return;
     const QString text = shown(box_.text()).replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (lines_.toPlainText() == text) return;
