@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "graph_desk.h"
 
 namespace kestra {
@@ -172,6 +174,21 @@ TEST_F(TheTools, showTheValuesAtAPointAsLongAsTheMouseIsPressed) {
   mouse(3, Type::up, 100.129, 1024.5);
   EXPECT_FALSE(box.visible());
   EXPECT_EQ(screen.savedWindow(3), before);
+}
+
+TEST_F(TheTools, readAPlaceAsItWasGiven) {
+  screen.mnuPointer.click();
+  // Neither is a number of single precision.
+  mouse(0, Type::down, 0.7, 999.9);
+  EXPECT_EQ(screen.txtLabel(0).text(), "( 0.7 , 0.1 )");
+}
+
+TEST_F(TheTools, stayInBoundsAtAnyPlace) {
+  band(-1e300, -1e300, 1e300, 1e300);
+  for (const double end : {saved().Xmin, saved().Xmax, saved().Ymin, saved().Ymax}) EXPECT_TRUE(std::isfinite(end));
+  EXPECT_EQ(takeBoxes(), Lines{});
+  screen.mnuFrame.click();
+  EXPECT_EQ(saved(), (View{0, 4, 0, 1000}));
 }
 
 TEST_F(TheTools, workOnTheSecondCanvasOfTheHeadcutToo) {
