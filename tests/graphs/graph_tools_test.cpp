@@ -158,6 +158,20 @@ TEST_F(TheTools, wipeTheBandOutAtTheEnd) {
   EXPECT_EQ(aside.redrawn, 1);
 }
 
+TEST_F(TheTools, leaveNothingInvertedWhenTheBandIsGivenUp) {
+  for (const int number : {0, 12}) {
+    screen.ReDrawGraph(number);
+    screen.mnuZoomIn.click();
+    mouse(number, Type::down, 1, 20);
+    mouse(number, Type::move, 3, 60);
+    EXPECT_EQ(screen.Pic1(number).state().drawMode, kInvertMode);
+    screen.mnuDrag.click();
+    mouse(number, Type::up, 3, 60);
+    EXPECT_EQ(screen.Pic1(number).log().start().drawMode, kCopyMode);
+    EXPECT_EQ(screen.Pic1(number).state().drawMode, kCopyMode);
+  }
+}
+
 TEST_F(TheTools, showTheValuesAtAPointAsLongAsTheMouseIsPressed) {
   screen.ReDrawGraph(3);  // 0 to 250, 1024 to 1026
   screen.mnuPointer.click();
