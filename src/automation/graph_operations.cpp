@@ -37,6 +37,17 @@ Json clippedLine(Application&, const Arguments& a) {
   return describeCalls(canvas.log());
 }
 
+// A routine of the mouse on Pic1(number), or on Pic1A(number) under its name with an A behind.
+void addMouse(std::vector<Operation>& list, const std::string& name, MouseEvent::Type type) {
+  for (const bool second : {false, true}) {
+    list.push_back(onGraphs(name + (second ? "A" : ""), {"button", "x", "y", "number"},
+                            [type, second](frmOutputGraph& graphs, const Arguments& a) {
+                              CanvasControl& canvas = (second ? graphs.Pic1A : graphs.Pic1)(a.integer(3));
+                              canvas.userMouse({type, a.integer(0), a.number(1), a.number(2)});
+                            }));
+  }
+}
+
 Json pickColor(Application& application, const Arguments& arguments) {
   const auto color = PickColor(application.ports.dialogs, static_cast<std::uint32_t>(arguments.integer(0)));
   return color ? Json(*color) : Json();
@@ -47,7 +58,7 @@ Json pickColor(Application& application, const Arguments& arguments) {
 std::vector<Operation> graphOperations() {
   using Graphs = frmOutputGraph;
   using Given = Arguments;
-  return {
+  std::vector<Operation> list = {
       onGraphs("frmOutputGraph.OpenFile", {"path"}, [](Graphs& g, const Given& a) { g.OpenFile(a.text(0)); }),
       onGraphs("frmOutputGraph.GetGraphToOpen", {}, [](Graphs& g, const Given&) { g.GetGraphToOpen(); }),
       onGraphs("frmOutputGraph.Form_Resize", {"width", "height"},
@@ -57,11 +68,18 @@ std::vector<Operation> graphOperations() {
       onGraphs("ReDrawGraph", {"n"}, [](Graphs& g, const Given& a) { g.ReDrawGraph(a.integer(0)); }),
       {"Scaling", {"screen", "Xmin", "Xmax", "Ymin", "Ymax"}, scale},
       {"DrawClippedLine", {"x1", "y1", "x2", "y2", "Xmin", "Ymin", "Xmax", "Ymax", "fill"}, clippedLine},
+      onGraphs("SetMouse", {"image"}, [](Graphs& g, const Given& a) { g.SetMouse(a.integer(0)); }),
+      // No brush is kept from one drawing to the next.
+      {"ClearBrush", {}, [](Application&, const Given&) -> Json { return nullptr; }},
       {"PickColor", {"start"}, pickColor},
       {"PickAllColors",
        {},
        [](Application& a, const Given&) -> Json { return a.shell.lines.PickAllColors(a.ports.dialogs); }},
   };
+  addMouse(list, "GenericMouseDown", MouseEvent::Type::down);
+  addMouse(list, "GenericMouseMove", MouseEvent::Type::move);
+  addMouse(list, "GenericMouseUp", MouseEvent::Type::up);
+  return list;
 }
 
 }  // namespace kestra

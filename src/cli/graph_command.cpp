@@ -11,6 +11,7 @@ namespace kestra {
 namespace {
 
 constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
 constexpr PictureSize kUsualSize = {1200, 800};
 
 // Where the pictures or tables of a command go.
@@ -142,7 +143,8 @@ int drawGraphs(Application& application, const CliOptions& options, std::ostream
   const auto form = pictureForm(format);
   if (!form) {
     output.fail(options.output + ": give the form by --format, or a name that ends in .png, .svg, .pdf or .csv");
-    return kFailed;
+    err << "Run kestra help for the commands.\n";
+    return kWrongUsage;
   }
   return writePictures(application, options, *form, output) ? 0 : kFailed;
 }

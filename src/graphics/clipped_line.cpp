@@ -52,16 +52,19 @@ class Clip {
 
   // The visible part, from left to right; false when there is none.
   bool part(Segment& out) const {
-    double longest = 0;
+    constexpr double kHair = 1e-9;
+    double longest = kHair * (window_.xRange() + window_.yRange());
+    bool found = false;
     for (int i = 0; i < count_; ++i) {
       for (int j = i + 1; j < count_; ++j) {
         const double length = std::fabs(points_[j].x - points_[i].x) + std::fabs(points_[j].y - points_[i].y);
         if (length <= longest) continue;
         longest = length;
+        found = true;
         out = ordered(points_[i], points_[j]);
       }
     }
-    return longest > 0;
+    return found;
   }
 
  private:

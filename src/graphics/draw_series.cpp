@@ -2,17 +2,11 @@
 
 #include <algorithm>
 
-#include "base/numbers.h"
 #include "graphics/clipped_line.h"
 #include "graphics/draw_frame.h"
 
 namespace kestra {
 namespace {
-
-// The value of the shortest decimal that stands for a single-precision number.
-double shortDecimal(float value) {
-  return lenientNumber(singleNumber(value));
-}
 
 // A stretch of points of one column: the numbers of its first, lowest, highest and last point.
 struct Stretch {

@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "base/numbers.h"
 #include "base/runtime_fault.h"
 
 namespace kestra {
@@ -11,6 +12,10 @@ namespace kestra {
 float toSingle(double value) {
   constexpr double kLargest = std::numeric_limits<float>::max();
   return static_cast<float>(std::clamp(value, -kLargest, kLargest));
+}
+
+double shortDecimal(float value) {
+  return lenientNumber(singleNumber(value));
 }
 
 std::size_t SeriesStore::at(int series) {

@@ -40,5 +40,7 @@ class SeriesStore {
 
 // The nearest single-precision number; the largest one of its sign beyond their range.
 float toSingle(double value);
+// The value of the shortest decimal that stands for a single-precision number.
+double shortDecimal(float value);
 
 }  // namespace kestra

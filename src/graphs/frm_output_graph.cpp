@@ -20,6 +20,13 @@ std::vector<std::string> tabCaptions() {
 constexpr int kSlot = static_cast<int>(WindowSlot::outputGraph);
 constexpr const char* kUntitled = "Graphics [ Untitled ]";
 
+// Wipes a canvas, on which a rubber band may have been left in the mode that inverts.
+void wipe(CanvasControl& canvas, std::uint32_t background) {
+  canvas.DrawMode(kCopyMode);
+  canvas.BackColor(background);
+  canvas.Cls();
+}
+
 // Instances of a spillway, .V2D, stand in a directory that is named after their control file.
 std::string controlFileOfRun(const std::string& path) {
   constexpr std::string_view kInstance = ".V2D";
@@ -152,8 +159,7 @@ Reading frmOutputGraph::read(int number, int column, View& extents) {
 void frmOutputGraph::drawNotice(int number, const std::string& notice) {
   notices_[at(number)] = notice;
   const auto onCanvas = [&](CanvasControl& canvas) {
-    canvas.BackColor(context_.lines.ColorList[0]);
-    canvas.Cls();
+    wipe(canvas, context_.lines.ColorList[0]);
     DrawGraphTitle(sheet(number), canvas, notice);
   };
   onCanvas(Pic1(number));
@@ -191,8 +197,7 @@ void frmOutputGraph::drawSeries(int number) {
   CanvasControl& canvas = Pic1(number);
   canvas.AutoRedraw(true);
   canvas.DrawStyle(kSolid);
-  canvas.BackColor(on.background());
-  canvas.Cls();
+  wipe(canvas, on.background());
   canvas.Visible(true);
   DrawGraphTitle(on, canvas, entry.title);
   const Steps steps = DrawAxis(on, canvas);

@@ -25,8 +25,8 @@ void frmOutputGraph::joinCanvas(int number, CanvasControl& canvas, GraphPane& pa
 }
 
 void frmOutputGraph::userMouse(GraphPane& pane, const MouseEvent& event, int number) {
-  const auto x = static_cast<float>(event.x);
-  const auto y = static_cast<float>(event.y);
+  const auto x = toSingle(event.x);
+  const auto y = toSingle(event.y);
   switch (event.type) {
     case MouseEvent::Type::down:
       return tools.GenericMouseDown(pane, event.button, x, y, number);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <optional>
 
-#include "base/numbers.h"
 #include "graphs/run_rows.h"
 
 namespace kestra {
@@ -27,9 +26,8 @@ std::optional<Range> rangeOf(const SeriesStore& store, std::vector<float> Series
 }
 
 void fitAxis(const Range& range, Fit fit, double& low, double& high) {
-  const auto decimal = [](float value) { return lenientNumber(singleNumber(value)); };
-  low = fit == Fit::fromZero ? 0 : decimal(range.low);
-  high = fit == Fit::fromZero ? std::max(0.0, decimal(range.high)) : decimal(range.high);
+  low = fit == Fit::fromZero ? 0 : shortDecimal(range.low);
+  high = fit == Fit::fromZero ? std::max(0.0, shortDecimal(range.high)) : shortDecimal(range.high);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "graphics/series_store.h"
+
 namespace kestra {
 
 struct GraphTools::Band {
@@ -109,7 +111,7 @@ void GraphTools::GenericMouseDown(GraphPane& pane, int button, float x, float y,
     DragStartY = y;
   }
   if (button != kLeftButton || PointerMode != 1) return;
-  const std::string text = host_.readOutText(number, static_cast<double>(x), static_cast<double>(y));
+  const std::string text = host_.readOutText(number, shortDecimal(x), shortDecimal(y));
   pane.readOut.place(static_cast<double>(x), static_cast<double>(y) + pane.canvas.TextHeight(text),
                      context_.lines.ColorList[1]);
   pane.readOut.setText(text);

@@ -44,13 +44,10 @@ void addDrawdown(const std::string& text, SeriesStore& series, int line) {
     const std::size_t drawdown = row.find("Drawdown");
     return drawdown != std::string_view::npos && row.find("Reservoir", drawdown) != std::string_view::npos;
   };
-  if (!reader.find(isHeading)) return;
-  reader.rows([&](const RunRow& row) {
-    constexpr int kElevation = 85;
-    const std::string_view time = trim(row.text(1, kWidth));
-    const bool isHeader = time.empty() || time.find_first_of("0123456789") == std::string_view::npos;
-    if (!isHeader) series.add(line, row.number(1, kWidth), row.number(kElevation, kWidth));
-  });
+  constexpr int kMostHeadings = 10;
+  constexpr int kElevation = 85;
+  if (!reader.find(isHeading) || !reader.skipHeadings(kMostHeadings, kWidth)) return;
+  reader.rows([&](const RunRow& row) { series.add(line, row.number(1, kWidth), row.number(kElevation, kWidth)); });
 }
 
 // The crest as a level line as long as the first series.

@@ -25,8 +25,7 @@ Result<std::string> RunFiles::read(std::string_view extension) const {
   if (path.empty()) return Failure{FailureKind::notFound, path, "No control file"};
   const std::string directory(directoryOf(path));
   const Result<std::string> found = findIgnoringCase(files_, directory.empty() ? "." : directory, ParsePathName(path));
-  if (!found) return found.failure();
-  return files_.readStart(found.value(), kReadLimit);
+  return files_.readStart(found ? found.value() : path, kReadLimit);
 }
 
 }  // namespace kestra

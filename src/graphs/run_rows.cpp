@@ -52,6 +52,15 @@ bool RunReader::findRecord(std::string_view keyword) {
   return find([keyword](std::string_view line) { return trim(columns(line, 1, kKeyword)) == keyword; }).has_value();
 }
 
+bool RunReader::skipHeadings(int most, int width) {
+  std::string_view line;
+  for (LineReader next = lines_; most >= 0 && next.next(line); --most) {
+    if (realNumber(trim(RunRow(line).text(1, width)))) return true;
+    lines_ = next;
+  }
+  return false;
+}
+
 void RunReader::skip(int lines) {
   std::string_view line;
   while (lines-- > 0 && lines_.next(line)) continue;

@@ -41,6 +41,9 @@ class RunReader {
   bool findPart(std::string_view text);       // a line that holds the text; comments of the echo are passed over
   bool findRecord(std::string_view keyword);  // a record of the echo, by its first 11 columns
   void skip(int lines);
+  // Goes over headings, at most so many lines, to the first row whose columns 1 to `width` are a number; false when
+  // there is none.
+  bool skipHeadings(int most, int width);
 
   // Calls `take` for each row up to a blank line, the end of the file, or kMostRows rows; how many there were.
   template <class Take>

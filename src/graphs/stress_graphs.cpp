@@ -1,6 +1,5 @@
 #include <optional>
 
-#include "base/numbers.h"
 #include "base/text.h"
 #include "graphs/graph_reader.h"
 #include "graphs/run_rows.h"
@@ -20,8 +19,8 @@ struct Column {
 
 constexpr int kMostRiprapHeadings = 4;
 constexpr int kStressHeadings = 4;
-constexpr Column kRiprapAllowable = {"Allowable", 31, 20};
-constexpr Column kRiprapDischarge = {"Discharge", 13, 18};
+constexpr Column kRiprapAllowable = {"Allowable (%)", 31, 20};
+constexpr Column kRiprapDischarge = {"Discharge (cfs/ft)", 13, 18};
 constexpr Column kGrossStress = {"Gross", 37, kWidth};
 constexpr Column kEffectiveStress = {"Effective*t", 74, kWidth};
 constexpr Column kUnitDischarge = {"Discharge", 13, kWidth};
@@ -48,15 +47,7 @@ Reading drawTable(const GraphRequest& graph, RunReader& reader, std::initializer
 // Goes to the first row of the table over riprap: the first line behind its heading that begins with a number.
 bool findRiprap(RunReader& reader) {
   const auto isAnchor = [](std::string_view line) { return trim(line).starts_with("Flow on Riprapped Embankment"); };
-  if (!reader.find(isAnchor)) return false;
-  for (int i = 0; i <= kMostRiprapHeadings; ++i) {
-    RunReader next = reader;
-    const auto line = next.find([](std::string_view) { return true; });
-    if (!line) return false;
-    if (realNumber(trim(RunRow(*line).text(1, kWidth)))) return true;
-    reader = next;
-  }
-  return false;
+  return reader.find(isAnchor) && reader.skipHeadings(kMostRiprapHeadings, kWidth);
 }
 
 // The table of a run over riprap; nothing when the slope of the run is another one.

@@ -92,9 +92,10 @@ TEST_F(GraphCommand, tellsWhichGraphsCannotBeDrawnAndDrawsTheOthers) {
 
 TEST_F(GraphCommand, tellsWhatElseIsInItsWay) {
   options.output = "/home/a.gif";
-  EXPECT_EQ(draw({0}), 1);
+  EXPECT_EQ(draw({0}), 2);
   EXPECT_EQ(err.str(),
-            "kestra: /home/a.gif: give the form by --format, or a name that ends in .png, .svg, .pdf or .csv\n");
+            "kestra: /home/a.gif: give the form by --format, or a name that ends in .png, .svg, .pdf or .csv\n"
+            "Run kestra help for the commands.\n");
   options.output = "/none/a.png";
   EXPECT_EQ(draw({0}), 1);
   EXPECT_EQ(err.str(), "kestra: /none: No such file or directory\n");

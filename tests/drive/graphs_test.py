@@ -164,6 +164,22 @@ class Graphs(Flow):
         out, err, code = self.run_kestra("graph", "run/dam.KSC", "--graph", "20", "--format", "csv", "-o", "-")
         self.assertEqual((out.count("\r\n"), err, code), (20001, "", 0))
 
+    def test_have_the_routines_of_the_mouse_as_operations(self):
+        drive = self.opened()
+        for name, *place in (("Down", 0.5, 20), ("Move", 1.5, 60), ("Up", 1.5, 60)):
+            self.assertEqual(drive.ask("call", name="GenericMouse" + name, args=[1, *place, 0]), DONE)
+        self.assertEqual(self.window(drive, 0), [0.4, 1.6, 80, 120])
+        self.assertEqual(drive.click("frmOutputGraph", "mnuPointer"), DONE)
+        self.assertEqual(drive.ask("call", name="GenericMouseDownA", args=[1, 1.5, 60, 17]), DONE)
+        self.assertTrue(drive.value("get", screen="frmOutputGraph", control="txtLabelA(17)")["visible"])
+        self.assertEqual(drive.ask("call", name="GenericMouseUpA", args=[1, 1.5, 60, 17]), DONE)
+        self.assertFalse(drive.value("get", screen="frmOutputGraph", control="txtLabelA(17)")["visible"])
+        for name, number in (("GenericMouseMove", 22), ("GenericMouseMoveA", 0)):
+            self.assertEqual(drive.ask("call", name=name, args=[1, 1.5, 60, number]),
+                             {"ok": False, "error": "subscript out of range"})
+        for name, args in (("SetMouse", [12]), ("ClearBrush", [])):
+            self.assertEqual(drive.ask("call", name=name, args=args), DONE)
+
     def test_scale_and_clip_as_operations(self):
         drive = self.drive()
         for given, wanted in (([0, 137, 0, 1000], [20, 200, 0, 140, 0, 1000]), ([-6, 5, -6, 5], [2, 2, -6, 6, -8, 6])):

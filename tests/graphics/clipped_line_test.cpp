@@ -24,26 +24,27 @@ TEST(AClippedLine, isDrawnAsFarAsItLiesInTheWindowWithYTurnedOver) {
     double x1, y1, x2, y2;
     Lines calls;
   } cases[] = {
-      {1, 1, 9, 2, {"Line 1 4 9 3"}},       // within
-      {9, 2, 1, 1, {"Line 9 3 1 4"}},       // its direction stays
-      {0, 0, 10, 5, {"Line 0 5 10 0"}},     // corner to corner
-      {-4, 1, 6, 1, {"Line 0 4 6 4"}},      // left
-      {6, 1, 14, 1, {"Line 6 4 10 4"}},     // right
-      {14, 1, 6, 1, {"Line 10 4 6 4"}},     // right, backwards
-      {2, 3, 6, 7, {"Line 2 2 4 0"}},       // top
-      {6, -2, 4, 2, {"Line 5 5 4 3"}},      // bottom
-      {-2, 4, 2, 8, {}},                    // past a corner
-      {-2, 2, 12, 2, {"Line 0 3 10 3"}},    // right through
-      {-2, -1, 12, 6, {"Line 0 5 10 0"}},   // through two corners
-      {12, 6, -2, -1, {"Line 10 0 0 5"}},   // and back
-      {-1, 1, 1, -1, {}},                   // touches a corner
-      {-5, 1, -2, 3, {}},                   // aside
-      {1, 7, 4, 6, {}},                     // above
-      {0, 2, -3, 2, {}},                    // outward from the edge
-      {-5, 0, 5, 0, {"Line 0 5 5 5"}},      // along the bottom
-      {10, -5, 10, 3, {"Line 10 5 10 2"}},  // along the right edge
-      {3, 3, 3, 3, {"Line 3 2 3 2"}},       // a point
-      {20, 20, 20, 20, {}},                 // a point outside
+      {1, 1, 9, 2, {"Line 1 4 9 3"}},                     // within
+      {9, 2, 1, 1, {"Line 9 3 1 4"}},                     // its direction stays
+      {0, 0, 10, 5, {"Line 0 5 10 0"}},                   // corner to corner
+      {-4, 1, 6, 1, {"Line 0 4 6 4"}},                    // left
+      {6, 1, 14, 1, {"Line 6 4 10 4"}},                   // right
+      {14, 1, 6, 1, {"Line 10 4 6 4"}},                   // right, backwards
+      {2, 3, 6, 7, {"Line 2 2 4 0"}},                     // top
+      {6, -2, 4, 2, {"Line 5 5 4 3"}},                    // bottom
+      {-2, 4, 2, 8, {}},                                  // past a corner
+      {-2, 2, 12, 2, {"Line 0 3 10 3"}},                  // right through
+      {-2, -1, 12, 6, {"Line 0 5 10 0"}},                 // through two corners
+      {12, 6, -2, -1, {"Line 10 0 0 5"}},                 // and back
+      {-1, 1, 1, -1, {}},                                 // touches a corner
+      {-5, 1, -2, 3, {}},                                 // aside
+      {1, 7, 4, 6, {}},                                   // above
+      {0, 2, -3, 2, {}},                                  // outward from the edge
+      {-5, 0, 5, 0, {"Line 0 5 5 5"}},                    // along the bottom
+      {10, -5, 10, 3, {"Line 10 5 10 2"}},                // along the right edge
+      {3, 3, 3, 3, {"Line 3 2 3 2"}},                     // a point
+      {20, 20, 20, 20, {}},                               // a point outside
+      {4, -3.297177588099758, 6.256594949739789, 0, {}},  // up to the edge from outside
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(testing::Message() << c.x1 << " " << c.y1 << " " << c.x2 << " " << c.y2);

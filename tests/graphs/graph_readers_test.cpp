@@ -64,9 +64,9 @@ TEST_F(AGraph, ofARiprapRunShowsItsOwnTable) {
   run.makeRiprap();
   putRun();
   draw(4);
-  EXPECT_EQ(allSeries(), Lines{"Allowable: 0,0 1.5,65 4,20"});
+  EXPECT_EQ(allSeries(), Lines{"Allowable (%): 0,0 1.5,65 4,20"});
   draw(11);
-  EXPECT_EQ(allSeries(), Lines{"Discharge: 0,0 1.5,8 4,2"});
+  EXPECT_EQ(allSeries(), Lines{"Discharge (cfs/ft): 0,0 1.5,8 4,2"});
   run.riprap.clear();
   putRun();
   expectNotice(4, "Overtopping Stress Graph Not Available");
@@ -80,9 +80,9 @@ TEST_F(AGraph, ofARiprapRunBeginsWhereItsRowsDo) {
     run.riprap = "Flow on Riprapped Embankment Slope\n" + std::string(headings) + rows + "\n";
     putRun();
     draw(4);
-    EXPECT_EQ(allSeries(), Lines{"Allowable: 1.5,65 4,20"}) << headings;
+    EXPECT_EQ(allSeries(), Lines{"Allowable (%): 1.5,65 4,20"}) << headings;
     draw(11);
-    EXPECT_EQ(allSeries(), Lines{"Discharge: 1.5,8 4,2"}) << headings;
+    EXPECT_EQ(allSeries(), Lines{"Discharge (cfs/ft): 1.5,8 4,2"}) << headings;
   }
   run.riprap = "Flow on Riprapped Embankment Slope\n a\n b\n\n c\n d\n" + rows;
   putRun();
@@ -109,6 +109,25 @@ TEST_F(AGraph, ofTheWaterSurfaceGoesOnThroughTheDrawdown) {
   EXPECT_EQ(allSeries(), Lines{"Reservoir: 0,1016 1.5,1024.5 4,1022 10,1020 100,1010"});
   draw(20);
   EXPECT_EQ(allSeries(), Lines{"Tailwater: 0,1000 1.5,1002 4,1001.5"});
+}
+
+TEST_F(AGraph, ofTheWaterSurfaceFindsTheDrawdownBehindAnyHeadings) {
+  (void)files.removeFile("/p/dam.BRE");
+  run.crestLine.clear();
+  const std::string start = "Drawdown computations began at 4 hr\n\n  Drawdown     Reservoir\n";
+  const std::string rows = SampleRun::drawdownRow(10, 1020) + SampleRun::drawdownRow(100, 1010);
+  for (const char* headings : {"", "\n", " time  (hr)\n\n (cfs) 2\n -----\n\n"}) {
+    run.drawdown = start + headings + rows + "\n" + rows;
+    putRun();
+    (void)files.removeFile("/p/dam.BRE");
+    draw(2);
+    EXPECT_EQ(allSeries(), Lines{"Reservoir: 0,1016 1.5,1024.5 4,1022 10,1020 100,1010"}) << headings;
+  }
+  run.drawdown = start;
+  putRun();
+  (void)files.removeFile("/p/dam.BRE");
+  draw(2);
+  EXPECT_EQ(allSeries(), Lines{"Reservoir: 0,1016 1.5,1024.5 4,1022"});
 }
 
 TEST_F(AGraph, withASingleSpillwayHasOneSeriesForIt) {
@@ -176,6 +195,10 @@ TEST_F(AGraph, ofTheDamTellsWhenItsFileCannotBeRead) {
   draw(5);
   EXPECT_EQ(texts(5), Lines{"Dam Graph Not Available"});
   EXPECT_EQ(takeBoxes(), Lines{"File Error: /p/dam.OUT: Permission denied"});
+  (void)files.removeFile("/p/dam.OUT");
+  EXPECT_TRUE(files.makeDirectory("/p/dam.OUT"));
+  draw(5);
+  EXPECT_EQ(takeBoxes(), Lines{"File Error: /p/dam.OUT: Is a directory"});
   draw(0);
   EXPECT_EQ(texts(0), Lines{"Hydrograph Graph Not Available"});
   EXPECT_EQ(takeBoxes(), Lines{});

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "graph_desk.h"
 
 namespace kestra {
@@ -156,6 +158,20 @@ TEST_F(TheTools, wipeTheBandOutAtTheEnd) {
   EXPECT_EQ(aside.redrawn, 1);
 }
 
+TEST_F(TheTools, leaveNothingInvertedWhenTheBandIsGivenUp) {
+  for (const int number : {0, 12}) {
+    screen.ReDrawGraph(number);
+    screen.mnuZoomIn.click();
+    mouse(number, Type::down, 1, 20);
+    mouse(number, Type::move, 3, 60);
+    EXPECT_EQ(screen.Pic1(number).state().drawMode, kInvertMode);
+    screen.mnuDrag.click();
+    mouse(number, Type::up, 3, 60);
+    EXPECT_EQ(screen.Pic1(number).log().start().drawMode, kCopyMode);
+    EXPECT_EQ(screen.Pic1(number).state().drawMode, kCopyMode);
+  }
+}
+
 TEST_F(TheTools, showTheValuesAtAPointAsLongAsTheMouseIsPressed) {
   screen.ReDrawGraph(3);  // 0 to 250, 1024 to 1026
   screen.mnuPointer.click();
@@ -172,6 +188,21 @@ TEST_F(TheTools, showTheValuesAtAPointAsLongAsTheMouseIsPressed) {
   mouse(3, Type::up, 100.129, 1024.5);
   EXPECT_FALSE(box.visible());
   EXPECT_EQ(screen.savedWindow(3), before);
+}
+
+TEST_F(TheTools, readAPlaceAsItWasGiven) {
+  screen.mnuPointer.click();
+  // Neither is a number of single precision.
+  mouse(0, Type::down, 0.7, 999.9);
+  EXPECT_EQ(screen.txtLabel(0).text(), "( 0.7 , 0.1 )");
+}
+
+TEST_F(TheTools, stayInBoundsAtAnyPlace) {
+  band(-1e300, -1e300, 1e300, 1e300);
+  for (const double end : {saved().Xmin, saved().Xmax, saved().Ymin, saved().Ymax}) EXPECT_TRUE(std::isfinite(end));
+  EXPECT_EQ(takeBoxes(), Lines{});
+  screen.mnuFrame.click();
+  EXPECT_EQ(saved(), (View{0, 4, 0, 1000}));
 }
 
 TEST_F(TheTools, workOnTheSecondCanvasOfTheHeadcutToo) {
