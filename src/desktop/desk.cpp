@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/qt_text.h"
 
@@ -85,6 +86,7 @@ void Desk::run(Screen& screen) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(&view);
   view.show();
+  if (view.menus() != nullptr) view.menus()->show();
   QEventLoop loop;
   view.onScreenChanged = [&screen, &loop] {
     if (!screen.visible()) loop.quit();
@@ -94,6 +96,7 @@ void Desk::run(Screen& screen) {
   followFocus();
   if (screen.visible()) loop.exec();
   view.onScreenChanged = nullptr;
+  if (view.menus() != nullptr) view.menus()->hide();
   view.setParent(nullptr);
   dialog_ = outerDialog;
   modal_ = outer;
@@ -241,6 +244,15 @@ void Desk::place(Screen& screen) {
   if (window.isVisible()) return;
   window.widget()->show();
   window.show();
+  moveInside(window);
+}
+
+// The area puts a window where it covers the fewest others, which may be half outside.
+void Desk::moveInside(QMdiSubWindow& window) {
+  const QSize space = area_->viewport()->size();
+  if (!area_->isVisible()) return;
+  window.move(std::clamp(window.x(), 0, std::max(0, space.width() - window.width())),
+              std::clamp(window.y(), 0, std::max(0, space.height() - window.height())));
 }
 
 QMdiSubWindow& Desk::windowOf(Screen& screen) {

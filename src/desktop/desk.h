@@ -41,6 +41,7 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   void takeActivation(const QMdiSubWindow* window);  // the user has brought a window to the front
   void arrange();                                    // windows as the screens are
   void place(Screen& screen);
+  void moveInside(QMdiSubWindow& window);
   bool standsApart(const Screen& screen) const;
   QMdiSubWindow& windowOf(Screen& screen);
   void followMenus();

@@ -30,6 +30,7 @@ ScreenView::ScreenView(Screen& screen, UserAction act) : screen_(screen), act_(s
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(form_);
   menus_ = form_->findChild<QMenuBar*>();
+  if (menus_ != nullptr) menus_->hide();  // the frame shows them
   bindAll();
   giveTablesTheirMenu();
   joinSketch();

@@ -101,16 +101,29 @@ class TableBinding : public Binding {
     following_ = false;
   }
 
+  // A table with a font of its own lists results: nobody types in it, and its columns are as wide as what they hold.
+  bool lists() const { return !table_.fontName().empty(); }
+
+  void followFont() {
+    if (!lists() || told(view_.font().family()) == table_.fontName()) return;
+    QFont font(shown(table_.fontName()));
+    font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(view_.font().pointSizeF());
+    view_.setFont(font);
+  }
+
   void followCells() {
     following_ = true;
     model_.refresh();
+    followFont();
     fitHeight();
     for (int row = table_.fixedRows(); row < table_.rows(); ++row)
       view_.setRowHidden(row - table_.fixedRows(), !table_.rowShown(row));
     for (int column = table_.fixedColumns(); column < table_.columns(); ++column) {
       const int section = column - table_.fixedColumns();
       const int asked = table_.columnWidth(column) * view_.logicalDpiX() / kTwipsPerInch;
-      view_.setColumnWidth(section, std::max(asked, view_.horizontalHeader()->sectionSizeHint(section)));
+      const int held = lists() ? static_cast<const QAbstractItemView&>(view_).sizeHintForColumn(section) : 0;
+      view_.setColumnWidth(section, std::max({asked, held, view_.horizontalHeader()->sectionSizeHint(section)}));
     }
     following_ = false;
     followCursor();
