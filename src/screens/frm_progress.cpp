@@ -34,6 +34,7 @@ void frmProgress::begin(int steps) {
 }
 
 void frmProgress::step(int value, const std::string& what) {
+  if (!running_ && value > Gauge.maximum()) Gauge.setLimits(0, value);
   Gauge.setValue(value);
   lblWhat.setCaption(what);
   context_.host.show(*this);

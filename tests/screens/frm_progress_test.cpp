@@ -57,6 +57,12 @@ TEST_F(Progress, tellsTheTimeSinceItBegan) {
   }
 }
 
+TEST_F(Progress, showsAStepOfARunThatHasNotBegunHere) {
+  screen.step(2, "a.KSC");
+  EXPECT_EQ(screen.Gauge.value(), 2);
+  EXPECT_EQ(desk.front(), "frmProgress");
+}
+
 TEST_F(Progress, isAskedToStopByItsButtonOrItsFrameAndStaysUntilTheCommandIsOver) {
   screen.begin(1);
   EXPECT_FALSE(screen.stopRequested());
