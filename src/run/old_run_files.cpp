@@ -76,6 +76,7 @@ void deleteFilesOfStems(FileSystem& files, const std::vector<std::string>& stems
 
 void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName,
                        const std::string& controlFile) {
+  if (projectDirectory.empty()) return;
   const std::size_t mark = runName.rfind('_');
   const std::string folder = mark == std::string::npos ? "" : runName.substr(0, mark);
   const std::string stem = absolutePath(joinPath(joinPath(projectDirectory, folder), runName), projectDirectory);

@@ -57,6 +57,12 @@ void frmProgress::rest() {
   cmdStop.setEnabled(false);
 }
 
+void frmProgress::attend() {
+  if (running_) return;
+  stopping_ = false;
+  cmdStop.setEnabled(true);
+}
+
 bool frmProgress::queryUnload(CloseReason reason, bool bExiting) {
   if (bExiting || !running_ || reason == CloseReason::program) return true;
   stop();

@@ -90,6 +90,14 @@ TEST(DeleteOldRunFiles, deletesNothingForANameThatIsNoneOrLeadsOut) {
   }
 }
 
+TEST(DeleteOldRunFiles, deletesNothingWithoutAProject) {
+  RunDesk desk;
+  for (const char* path : {"/dam.OUT", "/dam/a.OUT", "/p/dam.OUT", "/p/dam/a.OUT"}) desk.memory.put(path, "x");
+  const auto before = desk.memory.paths();
+  DeleteOldRunFiles(desk.files, "", "dam");
+  EXPECT_EQ(desk.memory.paths(), before);
+}
+
 TEST(DeleteOldRunFiles, leavesWhatCannotBeDeletedWithoutAWord) {
   RunDesk desk;
   desk.memory.put("/p/dam.OUT", "x");

@@ -79,6 +79,18 @@ TEST_F(Progress, isAskedToStopByItsButtonOrItsFrameAndStaysUntilTheCommandIsOver
   EXPECT_FALSE(screen.loaded());
 }
 
+TEST_F(Progress, forgetsAStopThatNoCommandWasAsked) {
+  screen.step(2, "a.KSC");
+  screen.cmdStop.click();
+  screen.attend();
+  EXPECT_FALSE(screen.stopRequested());
+  EXPECT_TRUE(screen.cmdStop.enabled());
+  screen.begin(2);
+  screen.cmdStop.click();
+  screen.attend();
+  EXPECT_TRUE(screen.stopRequested()) << "the next program of a command is meant";
+}
+
 TEST_F(Progress, canBeReadAndClosedWhenACommandHasEndedBeforeItsLastStep) {
   screen.begin(2);
   screen.cmdStop.click();
