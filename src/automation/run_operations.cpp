@@ -31,7 +31,8 @@ std::vector<Operation> runOperations() {
              }),
       action("DeleteOldRunFiles", {"runName"},
              [](Application& application, const Given& a) {
-               DeleteOldRunFiles(application.ports.files, application.state.projectDir, a.text(0));
+               const ApplicationState& state = application.state;
+               DeleteOldRunFiles(application.ports.files, state.projectDir, a.text(0), state.currentFile);
              }),
       {"RunAndWait",
        {"commandLine"},

@@ -39,6 +39,10 @@ std::string inputDigestFile(std::string_view controlFile) {
 }
 
 Status keepInputDigest(FileSystem& files, const std::string& controlFile) {
+  if (!toLower(controlFile).ends_with(".ksc")) {
+    dropInputDigest(files, controlFile);
+    return Done{};
+  }
   const std::string path = inputDigestFile(controlFile);
   const auto text = readResultFile(files, controlFile);
   Status kept = text ? makeDirectories(files, std::string(directoryOf(path))) : Status(text.failure());

@@ -18,7 +18,8 @@ std::uint64_t inputDigest(std::string_view controlFileText);
 
 std::string inputDigestFile(std::string_view controlFile);
 
-// Keeps the digest of a control file as it stands now. When that fails there is none.
+// Keeps the digest of a control file as it stands now. When that fails there is none, nor for a file of another
+// extension than KSC, in whose place a later look would find none.
 Status keepInputDigest(FileSystem& files, const std::string& controlFile);
 void dropInputDigest(FileSystem& files, const std::string& controlFile);
 

@@ -60,8 +60,8 @@ void BuildPipeline::build() {
   const RunLog log(context_.programs, names.base + ".log");
 
   FileSystem& files = context_.ports.files;
-  DeleteOldRunFiles(files, state.projectDir, names.run);
-  deleteFilesOfStem(files, names.base);
+  DeleteOldRunFiles(files, state.projectDir, names.run, joinPath(state.projectDir, name));
+  deleteFilesOfStems(files, {names.base}, controlFile);
   (void)keepInputDigest(files, controlFile);  // without one nobody is told of a change
   SplitControlFile(files, context_.tables, controlFile, names.base);
   showStep(context_, 1, name);
@@ -102,6 +102,10 @@ BuildPipeline::Names BuildPipeline::namesOf(const std::string& controlFile) {
   const std::string& project = context_.state.projectDir;
   if (isOnlyDots(names.run) || project.empty() || !standsIn(context_.ports.files, controlFile, project)) {
     throw BuildEnded(controlFile + " stands outside the project " + project + ".");
+  }
+  for (std::size_t n = 1; n <= kSpillways; ++n) {
+    if (!equalIgnoringCase(controlFile, splitFileOf(names.base, n))) continue;
+    throw BuildEnded(controlFile + " is a split file, which a build would write anew.");
   }
   return names;
 }

@@ -1,7 +1,6 @@
 #include "run/checked_directory.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "base/paths.h"
 #include "base/text.h"
@@ -23,19 +22,19 @@ std::optional<std::string> directoryIn(FileSystem& files, const std::string& abo
   return joinPath(above, found->name);
 }
 
-std::optional<std::string> spelled(FileSystem& files, const std::string& directory) {
+}  // namespace
+
+std::optional<std::string> spelledDirectory(FileSystem& files, const std::string& directory) {
   const std::string above(directoryOf(directory));
   if (above == directory) return directory;  // a root
-  const auto place = spelled(files, above);
+  const auto place = spelledDirectory(files, above);
   if (!place) return std::nullopt;
   return directoryIn(files, *place, std::string(ParsePathName(directory)));
 }
 
-}  // namespace
-
 std::string checkedDirectory(Ports& ports, const std::string& path) {
   const std::string whole = absolutePath(path, ports.files.currentDirectory());
-  if (const auto directory = spelled(ports.files, std::string(directoryOf(whole)))) return *directory;
+  if (const auto directory = spelledDirectory(ports.files, std::string(directoryOf(whole)))) return *directory;
   ports.boxes.tell("Warning", "The entered File is not in valid Path", BoxIcon::critical);
   return {};
 }

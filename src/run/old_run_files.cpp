@@ -44,11 +44,12 @@ bool belongsToOneOf(const Runs& runs, const std::string& name, const Entries& en
 }
 
 // What cannot be listed or emptied is left as it is.
-void deleteFilesIn(FileSystem& files, const std::string& folder, const Runs& runs) try {
+void deleteFilesIn(FileSystem& files, const std::string& folder, const Runs& runs, const std::string& controlFile) try {
   const Entries entries = entriesOf(files, folder);
   for (const DirectoryEntry& entry : entries) {
-    if (entry.type == FileStatus::Type::directory || !belongsToOneOf(runs, entry.name, entries)) continue;
-    (void)files.removeFile(joinPath(folder, entry.name));
+    const std::string path = joinPath(folder, entry.name);
+    if (entry.type == FileStatus::Type::directory || equalIgnoringCase(path, controlFile)) continue;
+    if (belongsToOneOf(runs, entry.name, entries)) (void)files.removeFile(path);
   }
 } catch (const RuntimeFault&) {
 }
@@ -60,7 +61,7 @@ void emptyResults(FileSystem& files, const std::string& stem) try {
 
 }  // namespace
 
-void deleteFilesOfStems(FileSystem& files, const std::vector<std::string>& stems) {
+void deleteFilesOfStems(FileSystem& files, const std::vector<std::string>& stems, const std::string& controlFile) {
   std::map<std::string, Runs> byFolder;
   for (const std::string& stem : stems) {
     if (const std::string_view run = ParsePathName(stem); !isOnlyDots(run)) {
@@ -68,16 +69,18 @@ void deleteFilesOfStems(FileSystem& files, const std::vector<std::string>& stems
     }
   }
   for (const auto& [folder, runs] : byFolder) {
-    deleteFilesIn(files, folder, runs);
+    deleteFilesIn(files, folder, runs, controlFile);
     for (const std::string& run : runs) emptyResults(files, joinPath(folder, run));
   }
 }
 
-void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName) {
+void DeleteOldRunFiles(FileSystem& files, const std::string& projectDirectory, const std::string& runName,
+                       const std::string& controlFile) {
+  if (projectDirectory.empty()) return;
   const std::size_t mark = runName.rfind('_');
   const std::string folder = mark == std::string::npos ? "" : runName.substr(0, mark);
   const std::string stem = absolutePath(joinPath(joinPath(projectDirectory, folder), runName), projectDirectory);
-  if (stem.starts_with(joinPath(projectDirectory, ""))) deleteFilesOfStem(files, stem);
+  if (stem.starts_with(joinPath(projectDirectory, ""))) deleteFilesOfStems(files, {stem}, controlFile);
 }
 
 }  // namespace kestra

@@ -111,6 +111,7 @@ int Programs::start(const ProcessRequest& request, const std::string& subject) {
   ProcessRequest logged = request;
   logged.outputFile = logFile_;
   logged.appendsOutput = true;
+  progress_.attend();
   const std::int64_t begun = ports_.clock.steadyNs();
   if (!keepGoing(what, begun)) throw RunStopped(fmt::format("Stopped before {} ran.", nameOf(request)));
   const ProcessOutcome outcome = ports_.processes.run(logged, [this, &what, begun] { return keepGoing(what, begun); });

@@ -157,6 +157,12 @@ void RunSpillwayCase(RunContext& context, const std::string& instanceFile, int s
   context.ports.boxes.tell("Error Message", std::string("Parse Output File Error: ") + fault.what(), BoxIcon::warning);
 }
 
+// The path as the disk spells it; as it is given where there is no such file.
+std::string spelledPath(FileSystem& files, const std::string& path) {
+  const auto directory = spelledDirectory(files, std::string(directoryOf(path)));
+  return directory ? presentPath(files, joinPath(*directory, ParsePathName(path))) : path;
+}
+
 // That of the run whose results directory holds the instance; its own for one in the project itself.
 std::string logOf(const RunContext& context, const std::string& path, const std::string& base) {
   const std::string directory(directoryOf(path));
@@ -167,7 +173,7 @@ std::string logOf(const RunContext& context, const std::string& path, const std:
 
 void RunSpillwayInstance(RunContext& context, const std::string& instanceFile, int spillwayNumber) {
   FileSystem& files = context.ports.files;
-  const std::string path = absolutePath(trim(instanceFile), files.currentDirectory());
+  const std::string path = spelledPath(files, absolutePath(trim(instanceFile), files.currentDirectory()));
   const std::string base = withoutExtension(path);
   const bool named = hasExtension(path) && !isOnlyDots(ParsePathName(base));
   if (!named || !liesBelow(path, context.state.projectDir)) return;

@@ -80,7 +80,10 @@ void SplitControlFile(FileSystem& files, RunTables& tables, const std::string& s
   if (sourcePath.empty()) return;
   tables.spillwayName = {};
   tables.spillwayAnalysisFlag = tables.spillwayRatingFlag = {};
-  for (std::size_t n = 1; n <= kSpillways; ++n) removeFound(files, splitFileOf(runBase, n));
+  for (std::size_t n = 1; n <= kSpillways; ++n) {
+    const std::string old = splitFileOf(runBase, n);
+    if (!equalIgnoringCase(old, sourcePath)) removeFound(files, old);
+  }
   const std::string source = readText(files, sourcePath);
   LineReader lines(source);
   SplitFiles splits(files, runBase);

@@ -34,6 +34,7 @@ void frmProgress::begin(int steps) {
 }
 
 void frmProgress::step(int value, const std::string& what) {
+  if (!running_ && value > Gauge.maximum()) Gauge.setLimits(0, value);
   Gauge.setValue(value);
   lblWhat.setCaption(what);
   context_.host.show(*this);
@@ -54,6 +55,12 @@ void frmProgress::rest() {
   running_ = false;
   stopping_ = false;
   cmdStop.setEnabled(false);
+}
+
+void frmProgress::attend() {
+  if (running_) return;
+  stopping_ = false;
+  cmdStop.setEnabled(true);
 }
 
 bool frmProgress::queryUnload(CloseReason reason, bool bExiting) {

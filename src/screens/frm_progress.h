@@ -28,6 +28,7 @@ class frmProgress : public Screen {
   void refresh();                                   // the time, and the events that wait
   void finish();                                    // the command is over
   void rest();                                      // it has ended before its last step: stays on show to be read
+  void attend();                                    // a program starts; a stop that no command was asked is forgotten
   bool stopRequested() const { return stopping_; }  // since it began; not after its end
 
  protected:

@@ -32,6 +32,12 @@ SummaryFile joined(SummaryFile file, const SummarySelection& selection, const st
   return file;
 }
 
+// Whether a digest goes by the name of the entry itself, as that of a dam's run does.
+bool isDigestOf(std::string_view entryName, std::string_view digestPath) {
+  const std::string_view name = ParsePathName(digestPath);
+  return equalIgnoringCase(name.substr(0, name.rfind('.')), entryName);
+}
+
 }  // namespace
 
 std::string readSummaryOrder(SettingsStore& settings) {
@@ -87,9 +93,11 @@ std::size_t SummaryStore::LoadDigestEntry(int fieldOffset, const std::string& di
   }
   std::size_t place = 0;
   SummaryEntry& entry = entries_.named(entryName, &place);
-  entry.ofInstance = fieldOffset >= static_cast<int>(kInstanceOffset);
-  const std::string path = presentPath(ports_.files, digestPath);
-  takeDigest(ports_.files, entry.values, path, static_cast<std::size_t>(fieldOffset), damFields());
+  const auto offset = static_cast<std::size_t>(fieldOffset);
+  const bool belowInstance = offset < kInstanceOffset && entry.ofInstance && !isDigestOf(entryName, digestPath);
+  entry.ofInstance = belowInstance || offset >= kInstanceOffset;
+  const std::size_t most = belowInstance ? std::min(damFields(), kInstanceOffset - offset) : damFields();
+  takeDigest(ports_.files, entry.values, presentPath(ports_.files, digestPath), offset, most);
   return place + 1;
 }
 

@@ -44,7 +44,8 @@ class SummaryStore {
   Status writeFile(const std::string& path, const SummarySelection& selection);
 
   // Enters a digest under a name, behind `fieldOffset` positions: 0 for a dam, 25 for an instance. A new name is added
-  // at the end. A digest that is not there gives "N/A". Gives the number of the entry, from 1; a fault for an offset
+  // at the end. A digest that is not there gives "N/A". That of its dam leaves an instance the positions behind the
+  // 25th; one of the entry's own name makes it a dam's. Gives the number of the entry, from 1; a fault for an offset
   // outside of the positions.
   std::size_t LoadDigestEntry(int fieldOffset, const std::string& digestPath, const std::string& entryName);
 

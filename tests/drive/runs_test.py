@@ -74,6 +74,13 @@ class CommandLine(Runs):
         self.assertTrue(err.endswith(f"{paths[1]}: built\n"), err)
         self.assertEqual((out, code), ("", 1))
 
+    def test_builds_a_file_of_another_extension_and_keeps_it(self):
+        path = self.control("pond.dat")
+        out, err, code = self.run_kestra(*self.words("build", path))
+        self.assertTrue(err.endswith(f"{path}: KestraSim.exe pond.dat\n{path}: TorveSim.exe pond1_0.V2D\n"
+                                     f"{path}: built\n"), err)
+        self.assertEqual((out, code, text_of(path).decode()), ("", 0, CONTROL))
+
     def test_prints_the_summary(self):
         path = self.control("pond.KSC")
         self.run_kestra(*self.words("build", path))

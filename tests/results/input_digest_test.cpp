@@ -54,6 +54,14 @@ TEST(InputDigest, ofAnOlderRunIsGoneWhenThatOfTheNewOneCannotBeKept) {
   EXPECT_FALSE(files.content("/p/.kestra/dam.input"));
 }
 
+TEST(InputDigest, isNotKeptOfAFileThatIsNotFoundByTheNameOfItsRun) {
+  MemoryFileSystem files;
+  files.put("/p/dam.dat", "KESTRA\n");
+  files.put("/p/.kestra/dam.input", "0000000000000000\r\n");
+  EXPECT_TRUE(succeeded(keepInputDigest(files, "/p/dam.dat")));
+  EXPECT_FALSE(inputHasChanged(files, "/p/dam.KSC"));
+}
+
 TEST(InputDigest, thatIsCutOrForeignCountsAsThatOfAnotherFile) {
   MemoryFileSystem files;
   files.put("/p/dam.KSC", "KESTRA\n");

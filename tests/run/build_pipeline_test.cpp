@@ -149,6 +149,26 @@ TEST_F(BuildPipelineTest, refusesANameWithoutADot) {
   EXPECT_EQ(failing(), words) << "a dot in a directory is none in the name";
 }
 
+TEST_F(BuildPipelineTest, asksOfANameNoMoreThanADotAndKeepsTheFile) {
+  for (const char* path : {"/p/pond.dat", "/p/pond.", "/p/a.b.txt", "/p/my_pond.dat"}) {
+    open(path, kDam + spillwayRun("2"));
+    EXPECT_TRUE(build()) << path;
+    EXPECT_EQ(text(path), kDam + spillwayRun("2"));
+    EXPECT_THAT(started(), Contains(std::string("KestraSim.exe ") + path));
+    EXPECT_THAT(takeBoxes(), IsEmpty()) << path;
+  }
+  EXPECT_TRUE(has("/p/a.b/a2_0.V2D"));
+}
+
+TEST_F(BuildPipelineTest, leavesASplitFileAsItIs) {
+  open("/p/pond.as1", kDam + spillwayRun("1"));
+  memory.put("/p/pond.OUT", "old");
+  EXPECT_EQ(failing(), "/p/pond.as1 is a split file, which a build would write anew.");
+  EXPECT_EQ(text("/p/pond.as1"), kDam + spillwayRun("1"));
+  EXPECT_TRUE(has("/p/pond.OUT"));
+  EXPECT_THAT(takeBoxes(), IsEmpty());
+}
+
 TEST_F(BuildPipelineTest, endsWithoutABoxForAFileOutsideTheProject) {
   for (const char* path :
        {"/q/dam.KSC", "/p/sub/dam.KSC", "/p2/a-name-that-is-much-longer.KSC", "/dam.KSC", "dam.KSC"}) {

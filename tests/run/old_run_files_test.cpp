@@ -49,6 +49,19 @@ TEST(DeleteOldRunFiles, judgesAnExtensionFromTheFirstDotAndFromTheLast) {
       << "dam.b.OUT is a result of the run of dam.b.KSC, dam.c.OUT of none";
 }
 
+TEST(DeleteOldRunFiles, leavesTheControlFileWhateverItsExtension) {
+  for (const char* name : {"/p/dam.dat", "/p/dam.", "/p/dam.V2D", "/p/DAM.OUT"}) {
+    RunDesk desk;
+    desk.memory.put(name, "x");
+    desk.memory.put("/p/dam.DIS", "x");
+    DeleteOldRunFiles(desk.files, "/p", "dam", name);
+    EXPECT_TRUE(desk.has(name));
+    EXPECT_FALSE(desk.has("/p/dam.DIS")) << name;
+    deleteFilesOfStems(desk.files, {"/p/dam"}, name);
+    EXPECT_TRUE(desk.has(name));
+  }
+}
+
 TEST(DeleteOldRunFiles, emptiesTheResultsDirectoryButForItsSubdirectories) {
   RunDesk desk;
   for (const char* name : {"dam1_0.V2D", "dam1_0.DIS", "noextension", "mine.KSC", "sub/kept.DIS"}) {
@@ -75,6 +88,14 @@ TEST(DeleteOldRunFiles, deletesNothingForANameThatIsNoneOrLeadsOut) {
     DeleteOldRunFiles(desk.files, "/p", name);
     EXPECT_EQ(desk.memory.paths(), before) << name;
   }
+}
+
+TEST(DeleteOldRunFiles, deletesNothingWithoutAProject) {
+  RunDesk desk;
+  for (const char* path : {"/dam.OUT", "/dam/a.OUT", "/p/dam.OUT", "/p/dam/a.OUT"}) desk.memory.put(path, "x");
+  const auto before = desk.memory.paths();
+  DeleteOldRunFiles(desk.files, "", "dam");
+  EXPECT_EQ(desk.memory.paths(), before);
 }
 
 TEST(DeleteOldRunFiles, leavesWhatCannotBeDeletedWithoutAWord) {

@@ -135,7 +135,7 @@ TEST_F(ProgramsTest, leaveTheProgressScreenAloneWhileItIsNotOnShow) {
 }
 
 TEST_F(ProgramsTest, endWithTheProgramThatTheUserStops) {
-  host.show(progress);
+  progress.begin(8);
   solverEndsWith(Exited{0});
   int pumps = 0;
   events.onPump = [&] {

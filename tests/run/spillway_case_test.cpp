@@ -158,6 +158,13 @@ TEST_F(SpillwayCaseTest, knowsTheProjectWhateverTheLettersOfItsName) {
   EXPECT_THAT(started(), ElementsAre("TorveSim.exe /P/dam/dam1_0.V2D"));
 }
 
+TEST_F(SpillwayCaseTest, findsTheInstanceWhateverTheLettersOfItsPath) {
+  memory.put("/p/dam/dam1_0.V2D", instance({}));
+  RunSpillwayInstance(context, "/P/Dam/DAM1_0.v2d", 1);
+  EXPECT_THAT(started(), ElementsAre("TorveSim.exe /p/dam/dam1_0.V2D"));
+  EXPECT_TRUE(has("/p/dam/dam1_0.DIS"));
+}
+
 TEST_F(SpillwayCaseTest, refreshesTheSummaryTableWhileItIsOpen) {
   state.windowOpen[2] = true;
   run(instance({}));

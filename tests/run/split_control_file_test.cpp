@@ -95,6 +95,16 @@ TEST_F(SplitControlFileTest, doesNothingWithoutAPath) {
   EXPECT_EQ(tables.spillwayName[0], "East");
 }
 
+TEST_F(SplitControlFileTest, leavesASourceThatIsASplitFileItself) {
+  for (const char* name : {"/p/dam.AS1", "/p/dam.as3"}) {
+    memory.put(name, run("1", "a"));
+    memory.put("/p/dam.AS2", "old");
+    SplitControlFile(files, tables, name, "/p/dam");
+    EXPECT_EQ(text(name), run("1", "a"));
+    EXPECT_FALSE(has("/p/dam.AS2"));
+  }
+}
+
 TEST_F(SplitControlFileTest, leavesTheSplitAsFarAsItGotWhenTheDiskFillsUp) {
   memory.put("/p/dam.KSC", kDam + run("1", "a") + run("2", "b"));
   files.failEvery("write", FailureKind::full);

@@ -57,6 +57,12 @@ TEST_F(Progress, tellsTheTimeSinceItBegan) {
   }
 }
 
+TEST_F(Progress, showsAStepOfARunThatHasNotBegunHere) {
+  screen.step(2, "a.KSC");
+  EXPECT_EQ(screen.Gauge.value(), 2);
+  EXPECT_EQ(desk.front(), "frmProgress");
+}
+
 TEST_F(Progress, isAskedToStopByItsButtonOrItsFrameAndStaysUntilTheCommandIsOver) {
   screen.begin(1);
   EXPECT_FALSE(screen.stopRequested());
@@ -71,6 +77,18 @@ TEST_F(Progress, isAskedToStopByItsButtonOrItsFrameAndStaysUntilTheCommandIsOver
   EXPECT_TRUE(screen.visible());
   screen.finish();
   EXPECT_FALSE(screen.loaded());
+}
+
+TEST_F(Progress, forgetsAStopThatNoCommandWasAsked) {
+  screen.step(2, "a.KSC");
+  screen.cmdStop.click();
+  screen.attend();
+  EXPECT_FALSE(screen.stopRequested());
+  EXPECT_TRUE(screen.cmdStop.enabled());
+  screen.begin(2);
+  screen.cmdStop.click();
+  screen.attend();
+  EXPECT_TRUE(screen.stopRequested()) << "the next program of a command is meant";
 }
 
 TEST_F(Progress, canBeReadAndClosedWhenACommandHasEndedBeforeItsLastStep) {

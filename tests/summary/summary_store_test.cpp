@@ -134,6 +134,22 @@ TEST_F(SummaryStoreTest, entersWhatADigestDoesNotHoldAnyMoreAsGone) {
   EXPECT_EQ(valuesOf(0), "1:N/A 2:N/A 3:N/A");
 }
 
+TEST_F(SummaryStoreTest, leavesAnInstanceItsOwnValuesBelowThoseOfItsDam) {
+  std::string dam;
+  for (int i = 1; i <= 40; ++i) dam += i == 1 || i >= 25 ? "d" + std::to_string(i) + "\n" : "\n";
+  files.put("/p/run.DIS", dam);
+  files.put("/p/run/run1_0.DIS", "EAST\n0.52\n1.5\n");
+  putSummary("0\n0\n\"a_b\"\n");
+  titles.fieldTitles[0].assign(40, "t");
+  store.LoadSummaryStore();
+  EXPECT_EQ(store.LoadDigestEntry(25, "/p/run/run1_0.DIS", "run1_0"), 2U);
+  EXPECT_EQ(store.LoadDigestEntry(0, "/p/run.DIS", "RUN1_0"), 2U);
+  EXPECT_EQ(valuesOf(1), "1:d1 25:d25 26:EAST 27:0.52 28:1.5");
+  files.put("/p/a_b.DIS", dam);
+  store.LoadDigestEntry(0, "/p/a_b.DIS", "a_b");
+  EXPECT_EQ(valuesOf(0).substr(0, 20), "1:d1 25:d25 26:d26 2") << "a dam's run whose digest was missing before";
+}
+
 TEST_F(SummaryStoreTest, refusesAnOffsetOutsideOfItsPositions) {
   for (const int offset : {-1, 65}) {
     try {
