@@ -10,7 +10,8 @@ class frmAuxSummaryTable : public SummaryTableScreen {
   explicit frmAuxSummaryTable(SummaryContext& context);
 
   // Makes the entries anew: one for each digest "<run><spillway>_<instance>.DIS" in the directory of a run, by the
-  // numbers of the instances, the run's name counting up to its first dot. False, after a box and with an empty table, where there is no such directory.
+  // numbers of the instances, the run's name counting up to its first dot. False, after a box and with an empty table,
+  // where there is no such directory.
   bool LoadAuxSumDISFiles(const std::string& folder, int spillway);
   void followRun();  // a run has written digests: reads them again
   EntryList& entries() override { return entries_; }
