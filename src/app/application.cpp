@@ -34,7 +34,7 @@ void Application::joinSummary() {
   WindowRegistry& windows = shell.topScreen.windows();
   windows.enter(WindowSlot::summaryTable, summaryScreens.table, &summaryScreens.table.mnuWindowsArray);
   windows.enter(WindowSlot::summaryGraphics, summaryScreens.graphics, &summaryScreens.graphics.mnuWindowsArray);
-  runSummary.onModifyTable = [this](int entry) { summaryScreens.table.ModifyTable(static_cast<std::size_t>(entry)); };
+  runSummary.onModifyTable = [this](int entry) { summaryScreens.followRun(entry); };
   runSummary.onRefreshTable = [this] { summaryScreens.followStore(); };
   runSummary.onRefreshOpenFiles = [this] { summaryScreens.table.GetFileToOpen(); };
   runSummary.onRefreshGraphs = [this] { shell.graphs.output.GetGraphToOpen(); };

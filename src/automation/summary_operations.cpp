@@ -66,6 +66,12 @@ std::vector<TableOperation> tableOperations() {
       {"ComputeTableValues", {}, silent([](Table& t, const Given&) { t.ComputeTableValues(); })},
       {"ComputeSumTableValues", {}, silent([](Table& t, const Given&) { t.ComputeSumTableValues(); })},
       {"SortEnteries", {}, silent([](Table& t, const Given&) { t.SortEnteries(); })},
+      {"UpdateEntryArray", {"a", "b"}, silent([](Table& t, const Given& a) {
+         t.UpdateEntryArray(numberOf(a.integer(0)), numberOf(a.integer(1)));
+       })},
+      {"ModifyEntryArray", {"first", "position"}, silent([](Table& t, const Given& a) {
+         t.ModifyEntryArray(numberOf(a.integer(0)), numberOf(a.integer(1)));
+       })},
       {"DiscardEntryOfSameType", {"name"}, silent([](Table& t, const Given& a) {
          t.DiscardEntryOfSameType(a.text(0));
        })},

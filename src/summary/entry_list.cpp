@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include "base/numbers.h"
 #include "base/text.h"
@@ -83,6 +84,20 @@ void EntryList::SortEnteries() {
   sorted.reserve(entries_.size());
   for (const std::size_t i : order) sorted.push_back(std::move(entries_[i]));
   entries_ = std::move(sorted);
+  indexNames();
+}
+
+void EntryList::UpdateEntryArray(std::size_t a, std::size_t b) {
+  std::swap(entries_[a], entries_[b]);
+  indexNames();
+}
+
+void EntryList::ModifyEntryArray(std::size_t first, std::size_t position) {
+  const auto found = runOfInstance(entries_[first].name);
+  if (!found) return;
+  const std::string run(*found);
+  std::stable_partition(entries_.begin() + static_cast<std::ptrdiff_t>(position), entries_.end(),
+                        [&run](const SummaryEntry& entry) { return runOfInstance(entry.name) == run; });
   indexNames();
 }
 

@@ -48,6 +48,11 @@ class EntryList {
   // Brings the instances of each run together, behind the first of them; the order is otherwise kept. Fewer than three
   // entries stay as they are.
   void SortEnteries();
+  // Exchanges two entries, counted from 0.
+  void UpdateEntryArray(std::size_t a, std::size_t b);
+  // Brings the instances of the run of entry `first` that stand at `position` or behind it to that place; the order is
+  // otherwise kept.
+  void ModifyEntryArray(std::size_t first, std::size_t position);
 
  private:
   void indexNames();

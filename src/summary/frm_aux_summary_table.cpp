@@ -52,21 +52,31 @@ void frmAuxSummaryTable::unload() {
   folder_.clear();
 }
 
+void frmAuxSummaryTable::followRun() {
+  if (folder_.empty()) return;
+  readDigests();
+  BuildTable();
+}
+
 bool frmAuxSummaryTable::LoadAuxSumDISFiles(const std::string& folder, int spillway) {
   entries_.clear();
-  order_ = readSummaryOrder(context_.ports().settings);
-  const std::string_view run = ParsePathName(folder);
-  const std::string start = std::string(run.substr(0, run.find('.'))) + std::to_string(spillway) + "_";
-  const std::string directory = context_.runs.checkedDirectory(joinPath(folder, start));
-  folder_ = directory;
-  if (directory.empty()) return false;
+  const std::string whole = absolutePath(folder, context_.ports().files.currentDirectory());
+  const std::string_view run = ParsePathName(whole);
+  start_ = std::string(run.substr(0, run.find('.'))) + std::to_string(spillway) + "_";
+  folder_ = context_.runs.checkedDirectory(joinPath(whole, start_));
+  if (folder_.empty()) return false;
+  readDigests();
+  return true;
+}
+
+void frmAuxSummaryTable::readDigests() {
+  entries_.clear();
   FileSystem& files = context_.ports().files;
-  for (const std::string& digest : digestsIn(files, directory, start)) {
+  for (const std::string& digest : digestsIn(files, folder_, start_)) {
     SummaryEntry& entry = entries_.named(std::string(stemOf(digest)));
     entry.ofInstance = true;
-    takeDigest(files, entry.values, joinPath(directory, digest), kInstanceOffset, kMostLines);
+    takeDigest(files, entry.values, joinPath(folder_, digest), kInstanceOffset, kMostLines);
   }
-  return true;
 }
 
 EntryPlace frmAuxSummaryTable::placeOf(DigestPlaces&, const std::string& name) {

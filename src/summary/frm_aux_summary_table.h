@@ -10,16 +10,17 @@ class frmAuxSummaryTable : public SummaryTableScreen {
   explicit frmAuxSummaryTable(SummaryContext& context);
 
   // Makes the entries anew: one for each digest "<run><spillway>_<instance>.DIS" in the directory of a run, by the
-  // numbers of the instances, the run's name counting up to its first dot. Takes the order of the table from the
-  // settings. False, after a box and with an empty table, where there is no such directory.
+  // numbers of the instances, the run's name counting up to its first dot. False, after a box and with an empty table,
+  // where there is no such directory.
   bool LoadAuxSumDISFiles(const std::string& folder, int spillway);
+  void followRun();  // a run has written digests: reads them again
   EntryList& entries() override { return entries_; }
 
   std::function<void()> onReturn;  // the user wants to see the runs again
 
  protected:
   void unload() override;
-  std::string order() override { return order_; }
+  std::string order() override { return readSummaryOrder(context_.ports().settings); }
   EntryPlace placeOf(DigestPlaces&, const std::string& name) override;
   void viewAll() override;
   void viewDam() override {
@@ -27,9 +28,11 @@ class frmAuxSummaryTable : public SummaryTableScreen {
   }
 
  private:
+  void readDigests();
+
   EntryList entries_;
   std::string folder_;  // that of the run whose instances these are
-  std::string order_ = kByColumn;
+  std::string start_;   // what the names of their digests begin with
 };
 
 }  // namespace kestra

@@ -122,6 +122,7 @@ void frmSummaryFields::remove(int level) {
 
 void frmSummaryFields::accept() {
   accepted_ = true;
+  store_.setSummaryOrder(optRow.selected() ? kByRow : kByColumn);  // a table that was opened meanwhile has read the old
   store_.setSelection(choice_);
   tellUnsaved(context_.ports.boxes, store_.SaveSummaryStore(store_.projectFile()));
   if (onAccepted) onAccepted();

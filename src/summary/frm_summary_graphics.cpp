@@ -15,7 +15,8 @@ constexpr const char* kLineNext = "&Line Graph";
 
 std::string PlotField::title(const FieldCatalogues& catalogues) const {
   const int ofInstance = position - static_cast<int>(kInstanceOffset);
-  const bool isDam = level ? *level == SummaryLevel::dam : ofInstance < 1;
+  const bool namesInstance = ofInstance >= 1 && ofInstance <= static_cast<int>(catalogues.fieldTitles[1].size());
+  const bool isDam = level ? *level == SummaryLevel::dam : !namesInstance;
   return isDam ? catalogues.title(SummaryLevel::dam, position) : catalogues.title(SummaryLevel::instance, ofInstance);
 }
 

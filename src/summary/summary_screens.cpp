@@ -42,6 +42,11 @@ void SummaryScreens::followStore() {
   if (table.loaded()) table.BuildTable();
 }
 
+void SummaryScreens::followRun(int entry) {
+  table.ModifyTable(static_cast<std::size_t>(entry));
+  if (auxTable.loaded()) auxTable.followRun();
+}
+
 void SummaryScreens::followInputs() {
   for (SummaryTableScreen* each : std::initializer_list<SummaryTableScreen*>{&table, &auxTable}) {
     if (each->loaded()) each->followInputs();

@@ -24,7 +24,8 @@ class SummaryScreens {
   void closeAll();  // another project is open: what is on show belongs to none
   // The store has changed: a table that is open shows it.
   void followStore();
-  void followInputs();  // the input of a run has: likewise
+  void followRun(int entry);  // a run has been entered, by its number from 1: likewise
+  void followInputs();        // the input of a run has: likewise
 
  private:
   void viewSpillway(const std::string& folder, int spillway);

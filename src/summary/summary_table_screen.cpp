@@ -58,9 +58,22 @@ void SummaryTableScreen::BuildTable() {
   ComputeTableValues();
 }
 
+// From 0; the number counts from 1.
+std::size_t SummaryTableScreen::placeOfEntry(std::size_t number) {
+  if (number < 1 || number > entries().size()) throw RuntimeFault("subscript out of range");
+  return number - 1;
+}
+
+void SummaryTableScreen::UpdateEntryArray(std::size_t a, std::size_t b) {
+  entries().UpdateEntryArray(placeOfEntry(a), placeOfEntry(b));
+}
+
+void SummaryTableScreen::ModifyEntryArray(std::size_t first, std::size_t position) {
+  entries().ModifyEntryArray(placeOfEntry(first), placeOfEntry(position));
+}
+
 void SummaryTableScreen::ModifyTable(std::size_t entryIndex) {
-  if (entryIndex < 1 || entryIndex > entries().size()) throw RuntimeFault("subscript out of range");
-  const std::string name = entries()[entryIndex - 1].name;
+  const std::string name = entries()[placeOfEntry(entryIndex)].name;
   BuildTable();
   select(name);
 }

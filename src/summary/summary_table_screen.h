@@ -47,6 +47,9 @@ class SummaryTableScreen : public Screen {
   void ComputeSumTableValues();  // finds the instances of the selected row's run; none without such a row
   void BuildAuxTable();          // shows those that were found, a row each
   void SortEnteries() { entries().SortEnteries(); }
+  // Those of EntryList, by the numbers of entries, from 1. A fault outside of the entries.
+  void UpdateEntryArray(std::size_t a, std::size_t b);
+  void ModifyEntryArray(std::size_t first, std::size_t position);
   void DiscardEntryOfSameType(const std::string& name) { entries().discard({name}); }
   // Adds the rows of entries `first` to `last`, from 1, to those of the table; a last of 0: of the first alone. A fault
   // outside of the entries.
@@ -87,6 +90,7 @@ class SummaryTableScreen : public Screen {
 
  private:
   void joinCommands();
+  std::size_t placeOfEntry(std::size_t number);
   void fillGrids();
   void fill(Table& grid, const TextGrid& content);
   int selectedIndex() const;

@@ -83,6 +83,12 @@ class Tables(Summary):
             self.assertEqual(drive.value("call", name=find, args=[2, 5]), entry, find)
             answer = drive.ask("call", name=find, args=[2, 7])
             self.assertEqual(answer, {"ok": False, "error": "subscript out of range"})
+        self.assertEqual(drive.ask("call", name="UpdateEntryArray", args=[1, 6]), DONE)
+        self.assertEqual(drive.value("variable", name="entryNames")[::5], ["pond", "dam"])
+        self.assertEqual(drive.ask("call", name="ModifyEntryArray", args=[2, 7]),
+                         {"ok": False, "error": "subscript out of range"})
+        self.assertEqual(drive.ask("call", name="UpdateEntryArray", args=[6, 1]), DONE)
+        self.assertEqual(drive.ask("call", name="ModifyEntryArray", args=[2, 3]), DONE)
         self.assertEqual(drive.ask("call", name="frmSummaryTable.ModifyTable", args=[6]), DONE)
         self.assertEqual(self.cells(drive, "metaSum"), [list(row[:3]) for row in [HEADINGS, *ROWS]])
 

@@ -68,6 +68,33 @@ TEST(SortEnteries, bringsTheInstancesOfARunTogetherAndKeepsTheOrderOtherwise) {
   }
 }
 
+TEST(ModifyEntryArray, bringsTheInstancesOfARunToAPlace) {
+  const struct {
+    std::size_t first;
+    std::size_t position;
+    Names after;
+  } cases[] = {
+      {0, 1, {"b_1", "b_0", "b_2", "x", "a_0"}},  // behind the first
+      {2, 4, {"b_1", "x", "b_0", "a_0", "b_2"}},
+      {1, 0, {"b_1", "x", "b_0", "a_0", "b_2"}},  // no instance
+      {4, 0, {"b_1", "b_0", "b_2", "x", "a_0"}},
+  };
+  for (const auto& each : cases) {
+    EntryList list = listOf({"b_1", "x", "b_0", "a_0", "b_2"});
+    list.ModifyEntryArray(each.first, each.position);
+    EXPECT_EQ(namesOf(list), each.after) << each.first;
+    EXPECT_EQ(list.find("a_0"), each.after[4] == "a_0" ? 4U : 3U) << each.first;
+  }
+}
+
+TEST(UpdateEntryArray, exchangesTwoEntriesWithTheirValues) {
+  EntryList list = listOf({"a=1", "b=2", "c=3"});
+  list.UpdateEntryArray(0, 2);
+  EXPECT_EQ(namesOf(list), (Names{"c", "b", "a"}));
+  EXPECT_EQ(list[0].values[54], "3");
+  EXPECT_EQ(list.find("a"), 2U);
+}
+
 TEST(Groups, areNeighboursOfOneRun) {
   const auto text = [](const Names& names) {
     std::string groups;

@@ -112,6 +112,15 @@ TEST_F(SummaryFields, forgetsTheChoiceWithCancelAndWhenItsWindowIsClosed) {
   EXPECT_EQ(files.content("/p/SUMMARY.IDE"), "2\n3\n1\n1\n2\n\"run\"\n");
 }
 
+TEST_F(SummaryFields, savesTheOrderThatItShowsThoughTheStoreWasReadMeanwhile) {
+  screen.optRow.userSelect();
+  store.LoadSummaryStore();
+  EXPECT_EQ(store.summaryOrder(), kByColumn);
+  screen.cmdOK.click();
+  EXPECT_EQ(store.summaryOrder(), kByRow);
+  EXPECT_EQ(settings.get("SummaryFields", "summaryOrder", ""), "1");
+}
+
 TEST_F(SummaryFields, tellsOfAChoiceThatCouldNotBeSaved) {
   files.setMode("/p", true, false);
   screen.cmdOK.click();

@@ -202,5 +202,41 @@ TEST_F(SummaryTables, ofASpillwayShowTheDigestsOnDisk) {
   EXPECT_EQ(front(), "frmSummaryTable");
 }
 
+TEST_F(SummaryTables, ofASpillwayFollowARunThatIsEntered) {
+  putSamples();
+  open();
+  select(table, 1);
+  table.cmdView(1).click();
+  for (const int k : {0, 1, 2}) (void)files.removeFile("/p/dam/dam1_" + std::to_string(k) + ".DIS");
+  putInstance("dam/dam1_3", "0.7", "1");
+  screens.followRun(1);
+  EXPECT_EQ(rowsOf(aux.sumTable), (Texts{"Name|Stress", "dam1_3|0.7"}));
+  aux.mnuExit.click();
+  screens.followRun(6);
+  EXPECT_FALSE(aux.loaded());
+  EXPECT_EQ(table.metaSum.cursor().row, 5);
+}
+
+TEST_F(SummaryTables, ofASpillwayAreFoundHoweverTheirDirectoryIsWritten) {
+  putSamples();
+  host.load(aux);
+  for (const char* folder : {"/p/dam", "/p/dam/", "/p/x/../dam"}) {
+    EXPECT_TRUE(aux.LoadAuxSumDISFiles(folder, 1)) << folder;
+    EXPECT_EQ(aux.entries().size(), 4U) << folder;
+  }
+}
+
+TEST_F(SummaryTables, ofBothKindsTakeUpTheOrderThatIsChosen) {
+  putSamples();
+  open();
+  select(table, 1);
+  table.cmdView(1).click();
+  host.show(screens.fields);
+  screens.fields.optColumn.userSelect();
+  screens.fields.cmdOK.click();
+  EXPECT_EQ(rowsOf(table.sumTable)[1], "Stress||0.2|0.1|0.4|");
+  EXPECT_EQ(rowsOf(aux.sumTable), (Texts{"Name|dam1_1|dam1_0|dam1_3", "Stress|0.2|0.1|0.4"}));
+}
+
 }  // namespace
 }  // namespace kestra
