@@ -186,6 +186,7 @@ void HydrographFiles::importTorve() {
     names.emplace_back(named.name);
     code = named.code;
   }
+  if (names.empty() && !content.codes.empty()) return warn(file->trap, kNoHydrograph);
   if (names.size() > 1) code = chooseEntry(std::move(names)).value_or("");
   if (!code.empty()) importVhy(*file, code);
 }

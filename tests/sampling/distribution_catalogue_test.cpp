@@ -111,6 +111,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"Truncated Normal",
              {"1", "1", "0.5", "0.5"},
              "The value of UpperQuantile must be greater than LowerQuantile"},
+        Case{"Truncated Normal", {"1", "1", "0", "0.9"}, "Please Enter Value for Lower Bounds between 0.0 and 1.0"},
+        Case{"Truncated Normal", {"1", "1", "-2", "-1"}, "Please Enter Value for Lower Bounds between 0.0 and 1.0"},
         Case{"Bounded Normal", {"1", "1", "", "1"}, "Please Enter Value for Lower Point Value"},
         Case{"Bounded Normal", {"1", "1", "1", ""}, "Please Enter Value for Upper Point Value"},
         Case{"Bounded Normal", {"1", "0", "1", "2"}, "Please enter Positive Value for Standard Deviation"},

@@ -220,12 +220,21 @@ TEST_F(HydrographFilesOnScreen, importTheRecordOfAVhyFileThatIsChosen) {
   EXPECT_EQ(column(screen.grdTable, 1, 2), (Texts{"70", "7"}));
 }
 
-TEST_F(HydrographFilesOnScreen, doNothingWithAFileWithoutKnownRecords) {
+TEST_F(HydrographFilesOnScreen, doNothingWithAFileWithoutRecords) {
   put(screen.grdTable, 1, {"9"});
-  for (const std::string& text : {std::string(), std::string("nothing\n"), record("4", "1"), record("15", "1")}) {
+  for (const char* text : {"", "nothing\n"}) {
     import(menu.mnuImportTorve, text);
     EXPECT_EQ(screen.grdTable.cell(1, 1), "9");
     EXPECT_TRUE(takeBoxes().empty());
+  }
+}
+
+TEST_F(HydrographFilesOnScreen, tellOfAFileWhoseRecordsAreAllUnknown) {
+  put(screen.grdTable, 1, {"9"});
+  for (const std::string& text : {record("4", "1"), record("15", "1"), record("2", "1") + record("4", "1")}) {
+    import(menu.mnuImportTorve, text);
+    EXPECT_EQ(screen.grdTable.cell(1, 1), "9");
+    EXPECT_EQ(takeBoxes(), Texts{"Import TORVE File Error: The file holds no hydrograph."});
   }
 }
 
