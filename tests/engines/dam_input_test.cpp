@@ -246,6 +246,38 @@ std::vector<MessageCase> messageCases() {
       {"noEnd",
        without("ENDRUN"),
        {"***** WARNING - the run has no end (ENDRUN): the end of the file is taken for it"}},
+      {"unknownModel",
+       with("OPTION", {"OPTION    COEFF     EARTH     "})
+           .with("HCMODEL", {"HCMODEL   3         120       2         500       0.01"}),
+       {"***** ERROR - the headcut model \"3\" is neither 1 nor 2 (HCMODEL, line 36): no breach is computed"}},
+      {"unknownModelWithoutABreach", with("HCMODEL", {"HCMODEL   3         120       2         500       0.01"}), {}},
+      {"partOfAConduit",
+       with("PSpDATA", {"PSpDATA   2.5  150  24                  0.013     104       101       SC"}),
+       {"***** WARNING - number of conduits 2.5 is not whole (PSpDATA, line 24): 2 is taken"}},
+      {"maintenanceBetweenTwoCodes",
+       with("DWNSTREAM", {"DWNSTREAM 2.5       5.6       0.75      1.5       10        0.01"}),
+       {"***** WARNING - maintenance code 1.5 is not whole (DWNSTREAM, line 16): 1 is taken"}},
+      {"filletThatFillsTheConduit",
+       with("PSpDATA", {"PSpDATA   1    150  2         3         0.013     104       101       SR"})
+           .with("PSpCOEFFS", {"PSpCOEFFS 0.6       5                             3.1       60"}),
+       {"***** WARNING - a fillet of 60 inches fills the conduit (PSpCOEFFS, line 25): 12 is taken"}},
+      {"dischargesOfZero",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100       0         0         0",
+                          "                    130       0         190       12.667", "ENDTABLE"})
+           .without("PSpINLET")
+           .without("PSpDATA")
+           .without("PSpCOEFFS"),
+       {}},
+      {"tailwaterBeginsAbove",
+       with("TAILWATER", {"TAILWATER", "          101       50", "          103       500", "ENDTABLE"}),
+       {"***** WARNING - the first outflow 50 is above 0 (TAILWATER, line 27): its elevation counts below it"}},
+      {"noDrawdownTime",
+       with("OPTION", {"OPTION    COEFF     EARTH               DRAWDOWN  119       FEET"}),
+       {"***** WARNING - drawdown time is not given (OPTION, line 2): 240 is taken"}},
+      {"noIncrementOfAVariableStep",
+       with("HYD", {"HYD       Flood               0         0V        ", "          0         0",
+                    "          1         50", "          2         0", "ENDTABLE"}),
+       {"***** WARNING - there is no time increment above 0 (HYD, line 3): a row stands every 0.01 h"}},
       {"template",
        with("TEMPLATE", {"TEMPLATE", "          1         2         3", "ENDTABLE"}),
        {"***** WARNING - a cross section by stations is not computed with (TEMPLATE, line 36): the section of "
@@ -282,6 +314,19 @@ TEST(DamRuns, tellThatThePoolLeavesItsTables) {
   EXPECT_EQ(messages[2],
             "***** WARNING - the pool rose above the rating of auxiliary spillway 1 (ASRATING, line 30): its last two "
             "rows are carried on");
+}
+
+TEST(DamRuns, tellThatThePoolLeavesTheDischargesOfTheStructureTable) {
+  DamText dam;
+  dam.with("STRUCTURE", {"STRUCTURE Test", "                    100       0         0         0",
+                         "                    110       0         20        4",
+                         "                    120       30        80        8",
+                         "                    130                 190       14", "ENDTABLE"});
+  const Lines messages = messagesOfRun(dam);
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_EQ(messages[0],
+            "***** WARNING - the pool rose above the discharges of the principal spillway (STRUCTURE, line 8): the "
+            "last two are carried on");
 }
 
 TEST(DamRuns, tellThatAFloodIsTooLongToBeRouted) {
@@ -362,6 +407,22 @@ TEST(SpillwayProfile, comesFromTheRunBehindTheMainRun) {
   EXPECT_GT(run->routing.outlets.auxiliary[0].at(124), 300);
 }
 
+TEST(SpillwayProfile, tellsAMissingSideOfItsTrapezoid) {
+  struct Case {
+    const char* record;
+    const char* message;
+  };
+  const Case cases[] = {{"ASSURFACE 1Earth              60       110        900",
+                         "***** WARNING - side slope is not given (ASSURFACE, line 31): 0 is taken"},
+                        {"ASSURFACE 1Earth    3                  110        900",
+                         "***** WARNING - bottom width is not given (ASSURFACE, line 31): 0 is taken"}};
+  for (const Case& tested : cases) {
+    DamText text = surface(kRunBehind);
+    text.with("ASRATING", {tested.record, "          0         400       5.6", "ENDTABLE"});
+    EXPECT_EQ(messagesOf(text.text()), Lines{tested.message});
+  }
+}
+
 TEST(SpillwayProfile, goesByNameBeforeItGoesByOrder) {
   DamText text;
   text.with("ASRATING", {"ASSURFACE 1Left     3         60       110        900", "ENDTABLE",
@@ -373,6 +434,34 @@ TEST(SpillwayProfile, goesByNameBeforeItGoesByOrder) {
   const DamModel dam = readDam(readControlRecords(text.text()), messages);
   EXPECT_EQ(dam.auxiliary[0]->profile.at(0).second, 7);
   EXPECT_EQ(dam.auxiliary[1]->profile.at(0).second, 5);
+}
+
+TEST(DamInput, readsTheHeadcutModelAsANumber) {
+  struct Case {
+    const char* record;
+    int model;
+  };
+  const Case cases[] = {{"HCMODEL   1.0                 8         0         0.01      16", 1},
+                        {"HCMODEL    1                  8", 1},
+                        {"HCMODEL   2", 2},
+                        {"HCMODEL", 2},
+                        {"HCMODEL             120", 0},
+                        {"HCMODEL   12", 0}};
+  for (const Case& tested : cases) {
+    RunMessages messages;
+    const DamModel dam = readDam(readControlRecords(with("HCMODEL", {tested.record}).text()), messages);
+    EXPECT_EQ(dam.headcut->model, tested.model) << tested.record;
+  }
+}
+
+TEST(DamInput, takesTheVolumeOfTheFirstRowForTheBeginningOfTheAreas) {
+  RunMessages messages;
+  const DamText text = with("STRUCTURE", {"STRUCTURE Test", "                    100                 3         0",
+                                          "                    130                           14", "ENDTABLE"});
+  const std::optional<DamRun> run = buildRun(readDam(readControlRecords(text.text()), messages), messages);
+  ASSERT_TRUE(run);
+  EXPECT_EQ(run->reservoir.basis, StorageBasis::areas);
+  EXPECT_NEAR(run->routing.storage.volume(130) / 43560, 3 + 0.5 * 14 * 30, 1e-9);
 }
 
 TEST(DamInput, startsAtAnOutflow) {
