@@ -4,23 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "base/lines.h"
-#include "engines/dam_text.h"
-#include "kestrasim/build_routing.h"
+#include "engines/dam_messages.h"
 #include "kestrasim/dam_engine.h"
-#include "kestrasim/read_dam.h"
 
 namespace kestra {
 namespace {
-
-std::vector<std::string> messagesOf(const std::string& text) {
-  RunMessages messages;
-  const DamModel dam = readDam(readControlRecords(text), messages);
-  (void)buildRun(dam, messages);
-  return messages.lines();
-}
-
-using Lines = std::vector<std::string>;
 
 TEST(DamInput, ofAWholeDamGivesNoMessage) {
   EXPECT_EQ(messagesOf(DamText().text()), Lines{});
@@ -39,23 +27,9 @@ TEST_P(DamMessages, tellWhatWasWrongWhereAndWhatWasDone) {
   EXPECT_EQ(messagesOf(GetParam().dam.text()), GetParam().messages);
 }
 
-DamText with(std::string_view keyword, Lines lines) {
-  DamText dam;
-  dam.with(keyword, std::move(lines));
-  return dam;
-}
-
 DamText without(std::string_view keyword) {
   DamText dam;
   dam.without(keyword);
-  return dam;
-}
-
-DamText surface(Lines behind) {
-  DamText dam;
-  dam.with("ASRATING", {"ASSURFACE 1Earth    3         60       110        900",
-                        "          0         400       5.6       0.7       1         1", "ENDTABLE"});
-  dam.behind(std::move(behind));
   return dam;
 }
 
@@ -289,55 +263,6 @@ std::vector<MessageCase> messageCases() {
 INSTANTIATE_TEST_SUITE_P(Cases, DamMessages, testing::ValuesIn(messageCases()),
                          [](const auto& tested) { return std::string(tested.param.name); });
 
-// The messages of a whole run.
-Lines messagesOfRun(const DamText& dam) {
-  Lines found;
-  const std::string report = runDam(dam.text()).report;
-  LineReader lines(report);
-  std::string_view line;
-  while (lines.next(line)) {
-    if (line.starts_with("*****")) found.emplace_back(line);
-  }
-  return found;
-}
-
-TEST(DamRuns, tellThatThePoolLeavesItsTables) {
-  DamText dam;
-  dam.with("HYD", {"HYD       Flood     1         0         0C        ", "                    0         60000     0",
-                   "ENDTABLE"});
-  const Lines messages = messagesOfRun(dam);
-  ASSERT_EQ(messages.size(), 3U);
-  EXPECT_TRUE(messages[0].starts_with("***** WARNING - the pool rose above the storage table at 0."));
-  EXPECT_TRUE(messages[0].ends_with(" hours (STRUCTURE, line 7): the last area goes on above it"));
-  EXPECT_TRUE(messages[1].starts_with("***** WARNING - the outflow rose beyond the table at 0."));
-  EXPECT_TRUE(messages[1].ends_with(" hours (TAILWATER, line 25): the last elevation stays"));
-  EXPECT_EQ(messages[2],
-            "***** WARNING - the pool rose above the rating of auxiliary spillway 1 (ASRATING, line 30): its last two "
-            "rows are carried on");
-}
-
-TEST(DamRuns, tellThatThePoolLeavesTheDischargesOfTheStructureTable) {
-  DamText dam;
-  dam.with("STRUCTURE", {"STRUCTURE Test", "                    100       0         0         0",
-                         "                    110       0         20        4",
-                         "                    120       30        80        8",
-                         "                    130                 190       14", "ENDTABLE"});
-  const Lines messages = messagesOfRun(dam);
-  ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0],
-            "***** WARNING - the pool rose above the discharges of the principal spillway (STRUCTURE, line 8): the "
-            "last two are carried on");
-}
-
-TEST(DamRuns, tellThatAFloodIsTooLongToBeRouted) {
-  DamText dam;
-  std::vector<std::string> rows{"HYD       Flood     90000     0         0C        "};
-  for (int i = 0; i < 30; ++i) rows.emplace_back("                    0         3000      0         3000      0");
-  rows.emplace_back("ENDTABLE");
-  dam.with("HYD", rows);
-  EXPECT_EQ(messagesOfRun(dam).back(), "***** ERROR - the routing takes too many steps: it ends where the table ends");
-}
-
 // Loss and coefficient of a hood stand in two records each: where one of them is blank, the other counts.
 TEST(DamInput, takesLossAndCoefficientOfAHoodFromEitherRecord) {
   DamText dam;
@@ -379,61 +304,6 @@ TEST(DamInput, readsTheDownstreamFaceByAnOptionThatStandsBehindIt) {
   const DamModel dam = readDam(readControlRecords(text), messages);
   EXPECT_EQ(dam.downstream.d50, 1.2);
   EXPECT_EQ(dam.downstream.porosity, 0.4);
-}
-
-const Lines kRunBehind = {"QUIL      02/09/20022         Earth",
-                          "HYD       9                   C",
-                          "          1",
-                          "ENDTABLE",
-                          "ASSPRFL   41        0                   Earth",
-                          "          0         118       50        122       100       122",
-                          "          300       110",
-                          "ENDTABLE",
-                          "ENDJOB",
-                          "ENDRUN"};
-
-TEST(SpillwayProfile, comesFromTheRunBehindTheMainRun) {
-  RunMessages messages;
-  const DamModel dam = readDam(readControlRecords(surface(kRunBehind).text()), messages);
-  const std::vector<TablePoint>& profile = dam.auxiliary[0]->profile;
-  ASSERT_EQ(profile.size(), 4U);
-  EXPECT_EQ(profile[0].second, 118);
-  EXPECT_EQ(profile[3].first, 300);
-  EXPECT_EQ(profile[3].second, 110);
-  const std::optional<DamRun> run = buildRun(dam, messages);
-  ASSERT_TRUE(run);
-  EXPECT_EQ(messages.lines(), Lines{});
-  EXPECT_EQ(run->routing.outlets.auxiliary[0].lowest(), 122);
-  EXPECT_GT(run->routing.outlets.auxiliary[0].at(124), 300);
-}
-
-TEST(SpillwayProfile, tellsAMissingSideOfItsTrapezoid) {
-  struct Case {
-    const char* record;
-    const char* message;
-  };
-  const Case cases[] = {{"ASSURFACE 1Earth              60       110        900",
-                         "***** WARNING - side slope is not given (ASSURFACE, line 31): 0 is taken"},
-                        {"ASSURFACE 1Earth    3                  110        900",
-                         "***** WARNING - bottom width is not given (ASSURFACE, line 31): 0 is taken"}};
-  for (const Case& tested : cases) {
-    DamText text = surface(kRunBehind);
-    text.with("ASRATING", {tested.record, "          0         400       5.6", "ENDTABLE"});
-    EXPECT_EQ(messagesOf(text.text()), Lines{tested.message});
-  }
-}
-
-TEST(SpillwayProfile, goesByNameBeforeItGoesByOrder) {
-  DamText text;
-  text.with("ASRATING", {"ASSURFACE 1Left     3         60       110        900", "ENDTABLE",
-                         "ASSURFACE 2Right    3         80       110        900", "ENDTABLE"});
-  Lines behind{"QUIL      02/09/20023         Right", "ASSPRFL", "          0         5         10        6", "ENDRUN",
-               "QUIL      02/09/20022         Left",  "ASSPRFL", "          0         7         10        8", "ENDRUN"};
-  text.behind(behind);
-  RunMessages messages;
-  const DamModel dam = readDam(readControlRecords(text.text()), messages);
-  EXPECT_EQ(dam.auxiliary[0]->profile.at(0).second, 7);
-  EXPECT_EQ(dam.auxiliary[1]->profile.at(0).second, 5);
 }
 
 TEST(DamInput, readsTheHeadcutModelAsANumber) {
