@@ -19,8 +19,12 @@ ConduitSection circularSection(double diameterInches) {
   return {std::numbers::pi * diameter * diameter / 4, diameter / 4, diameter};
 }
 
+double largestFillet(double width, double height) {
+  return std::min(width, height) / 2;
+}
+
 ConduitSection rectangularSection(double width, double height, double filletInches) {
-  const double leg = std::min(filletInches / kInchesPerFoot, std::min(width, height) / 2);
+  const double leg = std::min(filletInches / kInchesPerFoot, largestFillet(width, height));
   const double area = width * height - 2 * leg * leg;
   const double perimeter = 2 * (width + height) - 4 * leg * (2 - std::numbers::sqrt2);
   return {area, area / perimeter, height};

@@ -11,8 +11,11 @@ struct ConduitSection {
 
 ConduitSection circularSection(double diameterInches);
 
+// Leg of the largest fillet that a conduit has room for, ft.
+double largestFillet(double width, double height);
+
 // Width and height in ft, with 45-degree fillets of leg `filletInches` in all four corners:
-// a = b h - 2 f^2, p = 2 (b + h) - 4 f (2 - sqrt 2).
+// a = b h - 2 f^2, p = 2 (b + h) - 4 f (2 - sqrt 2). A leg beyond the largest counts as that.
 ConduitSection rectangularSection(double width, double height, double filletInches);
 
 // Friction loss of a foot of full conduit in velocity heads: K_p = 29.16 n^2 / r^(4/3). For a circle this is

@@ -18,7 +18,7 @@ constexpr double kOvertopped = 1e-6;   // ft
 constexpr double kLeastArea = 1.0;     // ft^2, of a pool
 constexpr std::size_t kMostErosionRows = 15000;
 constexpr double kErosionRowShare = 1.0 / 16;  // of the rows' spacing, between rows of a growing breach
-constexpr double kStepsToBegin = 10000;
+constexpr double kStepsToBegin = 50000;
 constexpr double kStepsAPoint = 20;
 constexpr double kStepsARow = 4;
 

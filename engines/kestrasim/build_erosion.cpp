@@ -38,7 +38,8 @@ void fillEarth(const DownstreamRecord& record, SlopeInput& slope, RunMessages& m
   slope.surface = SlopeSurface::vegetated;
   slope.cover.roughness = givenOr(record.retardance, kBareRoughness, "retardance", place, messages);
   slope.cover.coverFactor = givenOr(record.cover, 0, "vegetal cover factor", place, messages);
-  slope.cover.maintenanceCode = static_cast<int>(givenOr(record.maintenance, 2, "maintenance code", place, messages));
+  slope.cover.maintenanceCode =
+      wholeOf(givenOr(record.maintenance, 2, "maintenance code", place, messages), "maintenance code", place, messages);
   slope.plasticityIndex = givenOr(record.plasticity, 0, "plasticity index", place, messages);
   slope.cover.diameterInches = record.particle.value_or(0);
 }
@@ -91,6 +92,10 @@ bool isTold(const std::optional<HeadcutRecord>& record, RunMessages& messages) {
     return false;
   }
   const Place place{"HCMODEL", record->line};
+  if (record->model == 0) {
+    messages.error(place, fmt::format("the headcut model \"{}\" is neither 1 nor 2", record->modelText), kNoBreach);
+    return false;
+  }
   if (!record->erodibility) messages.error(place, "the detachment rate coefficient is not given", kNoBreach);
   if (record->model == 2 && !record->strength)
     messages.error(place, "the undrained shear strength is not given", kNoBreach);

@@ -39,11 +39,12 @@ RatingCurve rateProfile(const AuxiliaryRecord& record, int number, double top, R
   if (record.profile.size() < 2) {
     return refuse(fmt::format("auxiliary spillway {} has no run with its ASSPRFL profile behind the main run", number));
   }
-  EarthSpillway spillway;
-  spillway.section = {record.bottomWidth.value_or(0), record.sideSlope.value_or(0)};
-  if (spillway.section.bottom <= 0 && spillway.section.sideSlope <= 0) {
+  if (record.bottomWidth.value_or(0) <= 0 && record.sideSlope.value_or(0) <= 0) {
     return refuse("neither a bottom width nor a side slope is given");
   }
+  EarthSpillway spillway;
+  spillway.section.bottom = givenOr(record.bottomWidth, 0, "bottom width", place, messages);
+  spillway.section.sideSlope = givenOr(record.sideSlope, 0, "side slope", place, messages);
   for (const TablePoint& point : record.profile) spillway.profile.push_back({point.first, point.second});
   spillway.reaches = reachesOf(record, place, messages);
   return rateSpillway(spillway, std::max(top, levelCrest(spillway).elevation + kLeastHead));
@@ -100,7 +101,14 @@ LinearTable buildTailwater(const DamModel& dam, double base, RunMessages& messag
     outflows.push_back(row.second);
     elevations.push_back(elevation);
   }
-  if (!outflows.empty()) return {std::move(outflows), std::move(elevations)};
+  if (!outflows.empty()) {
+    if (outflows.front() > 0) {
+      messages.warning({"TAILWATER", dam.tailwater.front().line},
+                       fmt::format("the first outflow {} is above 0", shown(outflows.front())),
+                       "its elevation counts below it");
+    }
+    return {std::move(outflows), std::move(elevations)};
+  }
   messages.warning({"TAILWATER", dam.tailwaterLine}, "no tailwater is given", "it is taken at the base of the dam");
   return {{0.0}, {base}};
 }

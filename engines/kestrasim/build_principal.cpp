@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "hydraulics/units.h"
 #include "kestrasim/build_outlets.h"
 #include "kestrasim/given_or.h"
 
@@ -18,6 +19,11 @@ constexpr const char* kNoFlow = "the principal spillway discharges nothing";
 
 bool hasDischarges(const StructureRecord& structure) {
   return std::ranges::any_of(structure.rows, [](const StructureRow& row) { return row.discharge.value_or(0) > 0; });
+}
+
+// A table that says 0 tells a spillway without discharge.
+bool tellsDischarges(const StructureRecord& structure) {
+  return std::ranges::any_of(structure.rows, [](const StructureRow& row) { return row.discharge.has_value(); });
 }
 
 RatingCurve structureRating(const StructureRecord& structure, RunMessages& messages) {
@@ -45,10 +51,16 @@ bool isPositive(const Number& number) {
   return number.value_or(0) > 0;
 }
 
-ConduitSection sectionOf(const PipeRecords& records) {
+ConduitSection sectionOf(const PipeRecords& records, RunMessages& messages) {
   const ConduitRecord& conduit = records.conduit;
   if (records.circular) return circularSection(*conduit.width);
-  return rectangularSection(*conduit.width, *conduit.height, records.coefficients.filletInches.value_or(0));
+  const double fillet = records.coefficients.filletInches.value_or(0);
+  const double largest = kInchesPerFoot * largestFillet(*conduit.width, *conduit.height);
+  if (fillet > largest) {
+    messages.warning(records.coefficientPlace(), fmt::format("a fillet of {} inches fills the conduit", shown(fillet)),
+                     fmt::format("{} is taken", shown(largest)));
+  }
+  return rectangularSection(*conduit.width, *conduit.height, fillet);
 }
 
 bool hasSize(const PipeRecords& records, RunMessages& messages) {
@@ -63,10 +75,11 @@ bool hasSize(const PipeRecords& records, RunMessages& messages) {
 // What riser and hood have in common.
 Conduits conduitsOf(const PipeRecords& records, RunMessages& messages) {
   Conduits conduits;
-  conduits.section = sectionOf(records);
-  conduits.count =
-      std::floor(givenOr(records.conduit.count, 1, "number of conduits", records.conduitPlace(), messages));
-  conduits.manning = givenOr(records.conduit.manning, kManning, "Manning's n", records.conduitPlace(), messages);
+  conduits.section = sectionOf(records, messages);
+  const Place place = records.conduitPlace();
+  conduits.count = wholeOf(givenOr(records.conduit.count, 1, "number of conduits", place, messages),
+                           "number of conduits", place, messages);
+  conduits.manning = givenOr(records.conduit.manning, kManning, "Manning's n", place, messages);
   conduits.entranceLoss =
       givenOr(records.inlet.entranceLoss, kEntranceLoss, "entrance loss", records.inletPlace(), messages);
   return conduits;
@@ -166,6 +179,7 @@ PrincipalSpillway buildPrincipal(const DamModel& dam, RunMessages& messages) {
   }
   if (rated) return structureRating(dam.structure, messages);
   if (!dam.inlet || !dam.conduit) {
+    if (tellsDischarges(dam.structure)) return {};
     messages.error({dam.inlet ? "PSpDATA" : "PSpINLET"}, "no principal spillway is told, nor that there is none",
                    kNoFlow);
     return {};

@@ -47,6 +47,10 @@ double rowHours(const HydrographRecord& hydrograph, RunMessages& messages) {
   const double length = hydrograph.points.back().first - hydrograph.points.front().first;
   const double given = hydrograph.step.value_or(0);
   const double spacing = given > 0 ? given : length / kRowsOfVariable;
+  if (given <= 0) {
+    messages.warning({"HYD", hydrograph.line}, "there is no time increment above 0",
+                     fmt::format("a row stands every {} h", shown(spacing)));
+  }
   if (length / spacing <= kHighestRows) return spacing;
   messages.warning({"HYD", hydrograph.line}, "the time increment makes too many rows",
                    fmt::format("a row stands every {} h", shown(length / kHighestRows)));
@@ -123,7 +127,7 @@ std::optional<DrawdownRequest> buildDrawdown(const DamModel& dam, const DamOutle
   if (options.analysis != Analysis::drawdown) return std::nullopt;
   const Place place{"OPTION", options.line};
   DrawdownRequest request;
-  request.hours = options.drawdownHours.value_or(kTenDays);
+  request.hours = givenOr(options.drawdownHours, kTenDays, "drawdown time", place, messages);
   if (options.drawdownPercent) {
     request.evacuatedPercent = givenOr(options.drawdownLevel, kEvacuated, "drawdown percent", place, messages);
   } else {

@@ -50,7 +50,9 @@ std::vector<StorageRow> rowsWithVolume(ReservoirTable& table, RunMessages& messa
 }
 
 StorageBasis basisOf(const std::vector<StructureRow>& rows) {
-  const bool volumes = std::ranges::any_of(rows, [](const StructureRow& row) { return row.volume.has_value(); });
+  // The volume of the first row alone is what the areas begin with.
+  const bool volumes =
+      std::any_of(rows.begin() + 1, rows.end(), [](const StructureRow& row) { return row.volume.has_value(); });
   const bool areas = std::ranges::all_of(rows, [](const StructureRow& row) { return row.area.has_value(); });
   if (!volumes) return StorageBasis::areas;
   return areas ? StorageBasis::both : StorageBasis::volumes;

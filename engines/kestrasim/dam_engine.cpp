@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <variant>
 
 #include "kestrasim/dam_report.h"
 #include "kestrasim/given_or.h"
@@ -42,6 +43,11 @@ void tellRouting(const DamModel& dam, const RoutingResult& result, RunMessages& 
 }
 
 void tellRatings(const DamModel& dam, const DamRun& run, const RoutingResult& result, RunMessages& messages) {
+  const auto* const principal = std::get_if<RatingCurve>(&run.routing.outlets.principal);
+  if (principal != nullptr && !principal->empty() && result.pool.value > principal->highest()) {
+    messages.warning({"STRUCTURE", dam.structure.line}, "the pool rose above the discharges of the principal spillway",
+                     "the last two are carried on");
+  }
   for (std::size_t i = 0; i < kAuxiliarySpillways; ++i) {
     const RatingCurve& rating = run.routing.outlets.auxiliary[i];
     if (rating.empty() || result.pool.value <= rating.highest()) continue;

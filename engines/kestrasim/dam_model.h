@@ -36,10 +36,11 @@ struct DamOptions {
 
 struct HeadcutRecord {
   std::size_t line = 0;
-  int model = 2;
-  Number bulkDensity;  // lb/ft^3
-  Number erodibility;  // (ft/h)/(lb/ft^2)
-  Number strength;     // lb/ft^2
+  int model = 2;          // 0 for one that is neither 1 nor 2
+  std::string modelText;  // as it stands in the record
+  Number bulkDensity;     // lb/ft^3
+  Number erodibility;     // (ft/h)/(lb/ft^2)
+  Number strength;        // lb/ft^2
   Number criticalStress;
   Number advance;  // (ft/h)/(ft/s^(1/3))
 };

@@ -13,6 +13,14 @@ double givenOr(const Number& given, double fallback, const std::string& name, co
   return fallback;
 }
 
+int wholeOf(double given, const std::string& name, const Place& place, RunMessages& messages) {
+  const int whole = static_cast<int>(given);
+  if (given != whole) {
+    messages.warning(place, fmt::format("{} {} is not whole", name, shown(given)), fmt::format("{} is taken", whole));
+  }
+  return whole;
+}
+
 std::string shown(double value) {
   return decimalNumber(value, 10);
 }

@@ -11,6 +11,9 @@ namespace kestra {
 double givenOr(const Number& given, double fallback, const std::string& name, const Place& place,
                RunMessages& messages);
 
+// What counts whole, without its fraction, which is told.
+int wholeOf(double given, const std::string& name, const Place& place, RunMessages& messages);
+
 // "12.5", of at most ten significant digits.
 std::string shown(double value);
 

@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "kestrasim/number_fields.h"
 #include "kestrasim/read_tables.h"
@@ -107,11 +108,26 @@ void readOptions(const ControlRecord& record, DamOptions& options, RunMessages& 
       numberIn(record.fields.named("drawdown time").text(), "drawdown time", {0, 1e5}, place, messages);
 }
 
+ControlRecord inLayout(const ControlRecord& record, std::string_view id) {
+  ControlRecord again = record;
+  again.layout = findRecord(id);
+  again.fields = takeApart(*again.layout, record.line);
+  return again;
+}
+
+// The model is a number, as the system reads it; a record that ends before it has model 2.
 void readHeadcut(const ControlRecord& record, DamModel& dam, RunMessages& messages) {
+  constexpr int kModel = 11;
   HeadcutRecord headcut;
-  headcut.model = record.layout->id == "HCMODEL 1" ? 1 : 2;
-  readNumbers<HeadcutRecord>(
-      record, headcut.model == 1 ? std::span<const NumberField<HeadcutRecord>>(kModel1) : kModel2, headcut, messages);
+  headcut.line = record.lineNumber;
+  headcut.modelText = trim(columns(record.line, kModel, 10));
+  const double model = reaches(record.line, kModel) ? lenientNumber(headcut.modelText) : 2;
+  headcut.model = model == 1 ? 1 : model == 2 ? 2 : 0;
+  if (headcut.model != 0) {
+    const ControlRecord again = inLayout(record, headcut.model == 1 ? "HCMODEL 1" : "HCMODEL 2");
+    readNumbers<HeadcutRecord>(
+        again, headcut.model == 1 ? std::span<const NumberField<HeadcutRecord>>(kModel1) : kModel2, headcut, messages);
+  }
   dam.headcut = headcut;
 }
 
@@ -123,13 +139,10 @@ std::span<const NumberField<DownstreamRecord>> downstreamFields(std::string_view
 
 // Which layout DWNSTREAM has is told by OPTION, wherever that stands.
 void readDownstream(const ControlRecord& record, SlopeKind kind, DownstreamRecord& downstream, RunMessages& messages) {
-  const RecordLayout* layout = findRecord(kind == SlopeKind::riprap  ? "DWNSTREAM RIPRAP"
-                                          : kind == SlopeKind::earth ? "DWNSTREAM EARTH"
-                                                                     : "DWNSTREAM BARE");
-  ControlRecord again = record;
-  again.layout = layout;
-  again.fields = takeApart(*layout, record.line);
-  readNumbers<DownstreamRecord>(again, downstreamFields(layout->id), downstream, messages);
+  const std::string_view id = kind == SlopeKind::riprap  ? "DWNSTREAM RIPRAP"
+                              : kind == SlopeKind::earth ? "DWNSTREAM EARTH"
+                                                         : "DWNSTREAM BARE";
+  readNumbers<DownstreamRecord>(inLayout(record, id), downstreamFields(id), downstream, messages);
 }
 
 void readAuxiliary(const ControlRecord& record, DamModel& dam, RunMessages& messages) {

@@ -4,23 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "base/lines.h"
-#include "engines/dam_text.h"
-#include "kestrasim/build_routing.h"
+#include "engines/dam_messages.h"
 #include "kestrasim/dam_engine.h"
-#include "kestrasim/read_dam.h"
 
 namespace kestra {
 namespace {
-
-std::vector<std::string> messagesOf(const std::string& text) {
-  RunMessages messages;
-  const DamModel dam = readDam(readControlRecords(text), messages);
-  (void)buildRun(dam, messages);
-  return messages.lines();
-}
-
-using Lines = std::vector<std::string>;
 
 TEST(DamInput, ofAWholeDamGivesNoMessage) {
   EXPECT_EQ(messagesOf(DamText().text()), Lines{});
@@ -39,23 +27,9 @@ TEST_P(DamMessages, tellWhatWasWrongWhereAndWhatWasDone) {
   EXPECT_EQ(messagesOf(GetParam().dam.text()), GetParam().messages);
 }
 
-DamText with(std::string_view keyword, Lines lines) {
-  DamText dam;
-  dam.with(keyword, std::move(lines));
-  return dam;
-}
-
 DamText without(std::string_view keyword) {
   DamText dam;
   dam.without(keyword);
-  return dam;
-}
-
-DamText surface(Lines behind) {
-  DamText dam;
-  dam.with("ASRATING", {"ASSURFACE 1Earth    3         60       110        900",
-                        "          0         400       5.6       0.7       1         1", "ENDTABLE"});
-  dam.behind(std::move(behind));
   return dam;
 }
 
@@ -246,6 +220,38 @@ std::vector<MessageCase> messageCases() {
       {"noEnd",
        without("ENDRUN"),
        {"***** WARNING - the run has no end (ENDRUN): the end of the file is taken for it"}},
+      {"unknownModel",
+       with("OPTION", {"OPTION    COEFF     EARTH     "})
+           .with("HCMODEL", {"HCMODEL   3         120       2         500       0.01"}),
+       {"***** ERROR - the headcut model \"3\" is neither 1 nor 2 (HCMODEL, line 36): no breach is computed"}},
+      {"unknownModelWithoutABreach", with("HCMODEL", {"HCMODEL   3         120       2         500       0.01"}), {}},
+      {"partOfAConduit",
+       with("PSpDATA", {"PSpDATA   2.5  150  24                  0.013     104       101       SC"}),
+       {"***** WARNING - number of conduits 2.5 is not whole (PSpDATA, line 24): 2 is taken"}},
+      {"maintenanceBetweenTwoCodes",
+       with("DWNSTREAM", {"DWNSTREAM 2.5       5.6       0.75      1.5       10        0.01"}),
+       {"***** WARNING - maintenance code 1.5 is not whole (DWNSTREAM, line 16): 1 is taken"}},
+      {"filletThatFillsTheConduit",
+       with("PSpDATA", {"PSpDATA   1    150  2         3         0.013     104       101       SR"})
+           .with("PSpCOEFFS", {"PSpCOEFFS 0.6       5                             3.1       60"}),
+       {"***** WARNING - a fillet of 60 inches fills the conduit (PSpCOEFFS, line 25): 12 is taken"}},
+      {"dischargesOfZero",
+       with("STRUCTURE", {"STRUCTURE Test", "                    100       0         0         0",
+                          "                    130       0         190       12.667", "ENDTABLE"})
+           .without("PSpINLET")
+           .without("PSpDATA")
+           .without("PSpCOEFFS"),
+       {}},
+      {"tailwaterBeginsAbove",
+       with("TAILWATER", {"TAILWATER", "          101       50", "          103       500", "ENDTABLE"}),
+       {"***** WARNING - the first outflow 50 is above 0 (TAILWATER, line 27): its elevation counts below it"}},
+      {"noDrawdownTime",
+       with("OPTION", {"OPTION    COEFF     EARTH               DRAWDOWN  119       FEET"}),
+       {"***** WARNING - drawdown time is not given (OPTION, line 2): 240 is taken"}},
+      {"noIncrementOfAVariableStep",
+       with("HYD", {"HYD       Flood               0         0V        ", "          0         0",
+                    "          1         50", "          2         0", "ENDTABLE"}),
+       {"***** WARNING - there is no time increment above 0 (HYD, line 3): a row stands every 0.01 h"}},
       {"template",
        with("TEMPLATE", {"TEMPLATE", "          1         2         3", "ENDTABLE"}),
        {"***** WARNING - a cross section by stations is not computed with (TEMPLATE, line 36): the section of "
@@ -256,42 +262,6 @@ std::vector<MessageCase> messageCases() {
 
 INSTANTIATE_TEST_SUITE_P(Cases, DamMessages, testing::ValuesIn(messageCases()),
                          [](const auto& tested) { return std::string(tested.param.name); });
-
-// The messages of a whole run.
-Lines messagesOfRun(const DamText& dam) {
-  Lines found;
-  const std::string report = runDam(dam.text()).report;
-  LineReader lines(report);
-  std::string_view line;
-  while (lines.next(line)) {
-    if (line.starts_with("*****")) found.emplace_back(line);
-  }
-  return found;
-}
-
-TEST(DamRuns, tellThatThePoolLeavesItsTables) {
-  DamText dam;
-  dam.with("HYD", {"HYD       Flood     1         0         0C        ", "                    0         60000     0",
-                   "ENDTABLE"});
-  const Lines messages = messagesOfRun(dam);
-  ASSERT_EQ(messages.size(), 3U);
-  EXPECT_TRUE(messages[0].starts_with("***** WARNING - the pool rose above the storage table at 0."));
-  EXPECT_TRUE(messages[0].ends_with(" hours (STRUCTURE, line 7): the last area goes on above it"));
-  EXPECT_TRUE(messages[1].starts_with("***** WARNING - the outflow rose beyond the table at 0."));
-  EXPECT_TRUE(messages[1].ends_with(" hours (TAILWATER, line 25): the last elevation stays"));
-  EXPECT_EQ(messages[2],
-            "***** WARNING - the pool rose above the rating of auxiliary spillway 1 (ASRATING, line 30): its last two "
-            "rows are carried on");
-}
-
-TEST(DamRuns, tellThatAFloodIsTooLongToBeRouted) {
-  DamText dam;
-  std::vector<std::string> rows{"HYD       Flood     90000     0         0C        "};
-  for (int i = 0; i < 30; ++i) rows.emplace_back("                    0         3000      0         3000      0");
-  rows.emplace_back("ENDTABLE");
-  dam.with("HYD", rows);
-  EXPECT_EQ(messagesOfRun(dam).back(), "***** ERROR - the routing takes too many steps: it ends where the table ends");
-}
 
 // Loss and coefficient of a hood stand in two records each: where one of them is blank, the other counts.
 TEST(DamInput, takesLossAndCoefficientOfAHoodFromEitherRecord) {
@@ -336,43 +306,32 @@ TEST(DamInput, readsTheDownstreamFaceByAnOptionThatStandsBehindIt) {
   EXPECT_EQ(dam.downstream.porosity, 0.4);
 }
 
-const Lines kRunBehind = {"QUIL      02/09/20022         Earth",
-                          "HYD       9                   C",
-                          "          1",
-                          "ENDTABLE",
-                          "ASSPRFL   41        0                   Earth",
-                          "          0         118       50        122       100       122",
-                          "          300       110",
-                          "ENDTABLE",
-                          "ENDJOB",
-                          "ENDRUN"};
-
-TEST(SpillwayProfile, comesFromTheRunBehindTheMainRun) {
-  RunMessages messages;
-  const DamModel dam = readDam(readControlRecords(surface(kRunBehind).text()), messages);
-  const std::vector<TablePoint>& profile = dam.auxiliary[0]->profile;
-  ASSERT_EQ(profile.size(), 4U);
-  EXPECT_EQ(profile[0].second, 118);
-  EXPECT_EQ(profile[3].first, 300);
-  EXPECT_EQ(profile[3].second, 110);
-  const std::optional<DamRun> run = buildRun(dam, messages);
-  ASSERT_TRUE(run);
-  EXPECT_EQ(messages.lines(), Lines{});
-  EXPECT_EQ(run->routing.outlets.auxiliary[0].lowest(), 122);
-  EXPECT_GT(run->routing.outlets.auxiliary[0].at(124), 300);
+TEST(DamInput, readsTheHeadcutModelAsANumber) {
+  struct Case {
+    const char* record;
+    int model;
+  };
+  const Case cases[] = {{"HCMODEL   1.0                 8         0         0.01      16", 1},
+                        {"HCMODEL    1                  8", 1},
+                        {"HCMODEL   2", 2},
+                        {"HCMODEL", 2},
+                        {"HCMODEL             120", 0},
+                        {"HCMODEL   12", 0}};
+  for (const Case& tested : cases) {
+    RunMessages messages;
+    const DamModel dam = readDam(readControlRecords(with("HCMODEL", {tested.record}).text()), messages);
+    EXPECT_EQ(dam.headcut->model, tested.model) << tested.record;
+  }
 }
 
-TEST(SpillwayProfile, goesByNameBeforeItGoesByOrder) {
-  DamText text;
-  text.with("ASRATING", {"ASSURFACE 1Left     3         60       110        900", "ENDTABLE",
-                         "ASSURFACE 2Right    3         80       110        900", "ENDTABLE"});
-  Lines behind{"QUIL      02/09/20023         Right", "ASSPRFL", "          0         5         10        6", "ENDRUN",
-               "QUIL      02/09/20022         Left",  "ASSPRFL", "          0         7         10        8", "ENDRUN"};
-  text.behind(behind);
+TEST(DamInput, takesTheVolumeOfTheFirstRowForTheBeginningOfTheAreas) {
   RunMessages messages;
-  const DamModel dam = readDam(readControlRecords(text.text()), messages);
-  EXPECT_EQ(dam.auxiliary[0]->profile.at(0).second, 7);
-  EXPECT_EQ(dam.auxiliary[1]->profile.at(0).second, 5);
+  const DamText text = with("STRUCTURE", {"STRUCTURE Test", "                    100                 3         0",
+                                          "                    130                           14", "ENDTABLE"});
+  const std::optional<DamRun> run = buildRun(readDam(readControlRecords(text.text()), messages), messages);
+  ASSERT_TRUE(run);
+  EXPECT_EQ(run->reservoir.basis, StorageBasis::areas);
+  EXPECT_NEAR(run->routing.storage.volume(130) / 43560, 3 + 0.5 * 14 * 30, 1e-9);
 }
 
 TEST(DamInput, startsAtAnOutflow) {
