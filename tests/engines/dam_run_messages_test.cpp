@@ -63,20 +63,28 @@ TEST(DamRuns, routeASlowBreachUnderALongIncrementToItsEnd) {
   for (const char* spillway : {"PSpINLET", "PSpDATA", "PSpCOEFFS", "ASRATING"}) dam.without(spillway);
   dam.with("OPTION", {"OPTION    SIMPLE    BARESOIL  NOPS"});
   dam.with("HCMODEL", {"HCMODEL   1                   0.3                 1         55.3"});
-  dam.with("HYD", {"HYD       Flood     1.24      0         0C", "                    0         165       329       494       658",
-                   "                    823       987       1152      1317      1481", "                    1646      1810      1975      2030      1865",
-                   "                    1701      1536      1371      1207      1042", "                    878       713       549       384       219",
-                   "                    55        0         0         0         0", "                    0         0         0         0         0",
+  dam.with("HYD", {"HYD       Flood     1.24      0         0C",
+                   "                    0         165       329       494       658",
+                   "                    823       987       1152      1317      1481",
+                   "                    1646      1810      1975      2030      1865",
+                   "                    1701      1536      1371      1207      1042",
+                   "                    878       713       549       384       219",
+                   "                    55        0         0         0         0",
+                   "                    0         0         0         0         0",
                    "                    0         0         0", "ENDTABLE"});
   dam.with("STROUTE", {"STROUTE   98.91     80        FEET"});
-  dam.with("STRUCTURE", {"STRUCTURE Test", "                    80                  0         0", "                    83.98               44.14     22.2",
-                         "                    91.86               362.64    58.6", "                    98.58               860.56    89.61",
-                         "                    105                 1608.42   143.39", "                    111.02              2637.17   198.12", "ENDTABLE"});
+  dam.with("STRUCTURE", {"STRUCTURE Test", "                    80                  0         0",
+                         "                    83.98               44.14     22.2",
+                         "                    91.86               362.64    58.6",
+                         "                    98.58               860.56    89.61",
+                         "                    105                 1608.42   143.39",
+                         "                    111.02              2637.17   198.12", "ENDTABLE"});
   dam.with("DAMCREST", {"DAMCREST  0         5.6"});
   dam.with("DWNSTREAM", {"DWNSTREAM 4.2       0.025"});
-  dam.with("CRESTPRFL", {"CRESTPRFL", "          0         108.46", "          30        103.46", "          400       103.46",
-                         "          430       108.46", "ENDTABLE"});
-  dam.with("TAILWATER", {"TAILWATER", "          80        0", "          89.8      1000", "          97.9      50000", "ENDTABLE"});
+  dam.with("CRESTPRFL", {"CRESTPRFL", "          0         108.46", "          30        103.46",
+                         "          400       103.46", "          430       108.46", "ENDTABLE"});
+  dam.with("TAILWATER",
+           {"TAILWATER", "          80        0", "          89.8      1000", "          97.9      50000", "ENDTABLE"});
   EXPECT_EQ(messagesOfRun(dam), Lines{});
 }
 

@@ -12,10 +12,9 @@ using Started = std::vector<std::string>;
 
 struct Build : testing::Test {
   WindowDesk desk;
-  Screen summary{"frmSummaryTable", "Summary"};
+  Screen& summary = desk.app.summaryScreens.table;
 
   Build() {
-    desk.app.host.enter(summary);
     desk.window.mnuNew.click();
     desk.edit("Pond");
     desk.saveAs(kPath);
