@@ -139,6 +139,7 @@ class DirectoryBinding : public Binding {
     connect(&model_, &QFileSystemModel::rowsInserted, this, settle);
     connect(&model_, &QFileSystemModel::layoutChanged, this, settle);
     connect(tree.selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& at) {
+      if (!at.isValid()) return late_.start();  // its row was made anew; the choice is what it was
       const std::string path = told(model_.filePath(at));
       if (path != list_.path()) this->act([this, &path] { list_.userChoose(path); });
     });
@@ -158,7 +159,10 @@ class DirectoryBinding : public Binding {
   static constexpr int kSettling = 50;  // milliseconds after the last directory that was read above the choice
 
   void reveal() {
-    if (tree_.currentIndex().isValid()) tree_.scrollTo(tree_.currentIndex(), QAbstractItemView::PositionAtCenter);
+    const QModelIndex at = list_.path().empty() ? QModelIndex() : model_.index(shown(list_.path()));
+    if (!at.isValid()) return;
+    tree_.setCurrentIndex(at);
+    tree_.scrollTo(at, QAbstractItemView::PositionAtCenter);
   }
 
   DirectoryList& list_;

@@ -255,7 +255,7 @@ TEST(Session, tellsInARealBoxWhatIsWrong) {
 TEST(Session, showsTheDirectoryInWhichANewProjectIsMade) {
   RealDesk desk;
   desk.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
-  const auto& tree = dynamic_cast<QTreeView&>(desk.widget(desk.shell.newProject.dirList));
+  auto& tree = dynamic_cast<QTreeView&>(desk.widget(desk.shell.newProject.dirList));
   const auto inSight = [&tree] {
     return tree.viewport()->rect().contains(tree.visualRect(tree.currentIndex()).center());
   };
@@ -264,6 +264,9 @@ TEST(Session, showsTheDirectoryInWhichANewProjectIsMade) {
   QTest::qWait(kSettling);
   EXPECT_TRUE(inSight());
   EXPECT_EQ(told(tree.currentIndex().data().toString()), std::filesystem::path(desk.folder.path()).filename());
+  tree.setCurrentIndex({});  // as when the directories around it change
+  EXPECT_EQ(desk.shell.newProject.dirList.path(), desk.folder.path());
+  EXPECT_TRUE(QTest::qWaitFor([&tree] { return tree.currentIndex().isValid(); }));
 }
 
 }  // namespace
