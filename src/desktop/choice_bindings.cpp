@@ -3,9 +3,11 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFileSystemModel>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QTreeView>
 
 #include "controls/choices.h"
@@ -59,6 +61,7 @@ class ComboBinding : public Binding {
   ComboBinding(ChoiceList& choice, QComboBox& box, const UserAction& act)
       : Binding(choice, act), choice_(choice), box_(box) {
     box.setEditable(choice.editable());
+    box.installEventFilter(this);
     connect(&box, &QComboBox::activated, this, [this](int index) {
       this->act([this, index] { choice_.userSelect(index); });
       follow(Property::value);
@@ -78,6 +81,13 @@ class ComboBinding : public Binding {
     if (property != Property::items && property != Property::value) return;
     box_.setCurrentIndex(choice_.index());
     if (choice_.editable() && box_.currentText() != shown(choice_.text())) box_.setEditText(shown(choice_.text()));
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool pressed = event->type() == QEvent::KeyPress && choice_.onKeyPress != nullptr;
+    const int key = pressed ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return Binding::eventFilter(watched, event);
+    act([this] { choice_.userKey({kEnter, {}}); });
+    return true;
   }
 
  private:
@@ -119,7 +129,17 @@ class DirectoryBinding : public Binding {
     tree.setModel(&model_);
     tree.setHeaderHidden(true);
     for (int column = 1; column < model_.columnCount(); ++column) tree.hideColumn(column);
+    late_.setSingleShot(true);
+    late_.setInterval(kSettling);
+    connect(&late_, &QTimer::timeout, this, [this] { reveal(); });
+    const auto settle = [this] {
+      if (!tree_.hasFocus()) late_.start();
+    };
+    connect(&model_, &QFileSystemModel::directoryLoaded, this, settle);
+    connect(&model_, &QFileSystemModel::rowsInserted, this, settle);
+    connect(&model_, &QFileSystemModel::layoutChanged, this, settle);
     connect(tree.selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& at) {
+      if (!at.isValid()) return late_.start();  // its row was made anew; the choice is what it was
       const std::string path = told(model_.filePath(at));
       if (path != list_.path()) this->act([this, &path] { list_.userChoose(path); });
     });
@@ -132,13 +152,23 @@ class DirectoryBinding : public Binding {
     if (!at.isValid() || at == tree_.currentIndex()) return;
     tree_.setCurrentIndex(at);
     tree_.expand(at);
-    tree_.scrollTo(at);
+    late_.start();
   }
 
  private:
+  static constexpr int kSettling = 50;  // milliseconds after the last directory that was read above the choice
+
+  void reveal() {
+    const QModelIndex at = list_.path().empty() ? QModelIndex() : model_.index(shown(list_.path()));
+    if (!at.isValid()) return;
+    tree_.setCurrentIndex(at);
+    tree_.scrollTo(at, QAbstractItemView::PositionAtCenter);
+  }
+
   DirectoryList& list_;
   QTreeView& tree_;
   QFileSystemModel model_;
+  QTimer late_;
 };
 
 template <class BindingType, class ControlType, class WidgetType>

@@ -37,7 +37,10 @@ Desk::Desk(Application& application) : application_(application), area_(new QMdi
   focusLate_.setInterval(0);
   keeping_.setInterval(kLookMs);
   connect(&keeping_, &QTimer::timeout, this, [this] { keepInput(); });
-  connect(&late_, &QTimer::timeout, this, [this] { arrange(); });
+  connect(&late_, &QTimer::timeout, this, [this] {
+    arrange();
+    focusInside();
+  });
   connect(&focusLate_, &QTimer::timeout, this, [this] { act([] {}); });
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { takeFocusChange(now); });
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) { takeActivation(window); });
@@ -139,6 +142,7 @@ void Desk::act(const std::function<void()>& action) {
   settle();
   arrange();
   followFocus();
+  focusInside();
   if (application_.shell.ended()) {
     keepPlace();
     QApplication::quit();
@@ -163,6 +167,19 @@ void Desk::followFocus() {
   current_ = focus;
   wanted_ = focus;
   if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
+}
+
+void Desk::focusInside() {
+  const QMdiSubWindow* const front = area_->activeSubWindow();
+  if (modal_ != nullptr || front == nullptr || !front->isVisible() || QApplication::activePopupWidget() != nullptr)
+    return;
+  const QWidget* const focus = focusWidget();
+  if (focus != nullptr && focus->isVisible() && (front->isAncestorOf(focus) || focus == menuBar())) return;
+  QWidget* const view = front->widget();
+  for (QWidget* next = view->nextInFocusChain(); next != view; next = next->nextInFocusChain()) {
+    const bool stops = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabled() && next->isVisible();
+    if (stops && view->isAncestorOf(next)) return next->setFocus(Qt::OtherFocusReason);
+  }
 }
 
 void Desk::takeFocusChange(QWidget* now) {
@@ -277,13 +294,15 @@ void Desk::followMenus() {
   const auto take = [&entries](QMenuBar* menus) {
     if (menus == nullptr) return;
     menus->hide();
-    entries.append(menus->actions());
+    for (QAction* entry : menus->actions())
+      if (entry->isVisible()) entries.append(entry);  // a hidden one would take the key of a shown one
   };
   take(viewOf(application_.shell.topScreen).menus());
   const std::vector<Screen*>& front = application_.host.shown();
   const bool ofProject = !front.empty() && !standsApart(*front.front());
   QMenuBar* const own = ofProject ? viewOf(*front.front()).menus() : nullptr;
-  take(own != nullptr || !ofProject ? own : viewOf(application_.shell.inputWindow).menus());
+  const bool borrows = own == nullptr && ofProject && application_.shell.inputWindow.loaded();
+  take(borrows ? viewOf(application_.shell.inputWindow).menus() : own);
   if (bar->actions() == entries) return;
   for (QAction* entry : bar->actions()) bar->removeAction(entry);
   bar->addActions(entries);

@@ -37,6 +37,7 @@ class Desk : public QMainWindow, public ScreenObserver, public ModalLoop {
   void act(const std::function<void()>& action);
   void settle();       // the checks of the control that the focus has left
   void followFocus();  // the focus goes where the screens have put it
+  void focusInside();  // into the window in front, whose keys are dead without it
   void takeFocusChange(QWidget* now);
   void takeActivation(const QMdiSubWindow* window);  // the user has brought a window to the front
   void arrange();                                    // windows as the screens are

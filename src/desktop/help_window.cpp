@@ -27,7 +27,7 @@ QString pageText(const QString& name) {
 }
 
 QString titleOf(const QString& text) {
-  return text.section(QLatin1Char('\n'), 0, 0).remove(QLatin1Char('#')).trimmed();
+  return text.section(QLatin1Char('\n'), 0, 0).remove(QLatin1Char('#')).remove(QLatin1Char('`')).trimmed();
 }
 
 }  // namespace

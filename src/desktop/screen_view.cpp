@@ -1,8 +1,11 @@
 #include "desktop/screen_view.h"
 
 #include <QAction>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -63,6 +66,16 @@ void ScreenView::screenChanged(Screen& screen) {
 void ScreenView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   resized_.start(isVisible() ? kResizeMilliseconds : 0);
+}
+
+// Enter presses the button that has the focus, and from a field the OK of its screen.
+void ScreenView::keyPressEvent(QKeyEvent* event) {
+  QPushButton* button = nullptr;
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    button = qobject_cast<QPushButton*>(focusWidget());
+    if (qobject_cast<QLineEdit*>(focusWidget()) != nullptr) button = findChild<QPushButton*>(QStringLiteral("cmdOK"));
+  }
+  button != nullptr ? button->click() : QWidget::keyPressEvent(event);
 }
 
 void ScreenView::tellSize() {

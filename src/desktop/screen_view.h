@@ -35,6 +35,7 @@ class ScreenView : public QWidget, public ScreenObserver {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void bindAll();

@@ -41,6 +41,7 @@ class KeyFilter : public QObject {
     if (event->type() != QEvent::KeyPress || !box_.onKeyPress) return QObject::eventFilter(watched, event);
     const auto* const press = static_cast<QKeyEvent*>(event);
     if ((press->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+    if (press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab) return false;  // they lead to the next field
     const Key key = keyOf(press->key(), press->text());
     return key.character != 0 && !box_.onKeyPress(key);
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTableView>
@@ -248,6 +249,88 @@ TEST(Desk, letsNothingBeReachedBesideTheProgress) {
   desk.shell.progress.finish();
   QTest::qWait(0);
   EXPECT_FALSE(view.isVisible());
+}
+
+TEST(Desk, opensItsMenusByTheirKeysAtEveryPress) {
+  ShownDesk desk;
+  for (int press = 0; press < 3; ++press) {
+    QTest::keyClick(&desk.window, Qt::Key_F, Qt::AltModifier);
+    QWidget* const menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr) << press;
+    EXPECT_EQ(qobject_cast<QMenu*>(menu)->title(), QStringLiteral("&File"));
+    menu->close();
+  }
+}
+
+TEST(Desk, keepsTheMenusOfProjectsAwayWhileNoneIsOpen) {
+  RunningDesk desk;
+  Desk window(desk.app);
+  window.start({});
+  desk.app.host.show(desk.shell.newProject);
+  QTest::qWait(0);
+  EXPECT_EQ(menuTitles(window), (QStringList{"File", "Help"}));
+}
+
+TEST(Desk, putsTheFocusIntoTheWindowThatComesToTheFront) {
+  ShownDesk desk;
+  for (Screen* screen : std::initializer_list<Screen*>{&desk.shell.newProject, &desk.shell.input.auxRatingTable,
+                                                       &desk.shell.input.properties, &desk.shell.inputWindow}) {
+    desk.show(*screen);
+    ASSERT_NE(desk.window.focusWidget(), nullptr) << screen->name();
+    EXPECT_TRUE(desk.active()->isAncestorOf(desk.window.focusWidget())) << screen->name();
+  }
+}
+
+TEST(Desk, pressesAButtonByEnter) {
+  ShownDesk desk;
+  QWidget& next = desk.widget(desk.shell.inputWindow.cmdNext);
+  next.setFocus();
+  QTest::keyClick(&next, Qt::Key_Return);
+  QTest::qWait(0);
+  EXPECT_TRUE(desk.shell.input.projectInformation.visible());
+  QTest::keyClick(&desk.widget(desk.shell.input.projectInformation.txtWatershedID), Qt::Key_Return);
+  QTest::qWait(0);
+  EXPECT_TRUE(desk.shell.input.projectInformation.visible());  // from a field nothing but an OK is pressed
+}
+
+TEST(Desk, makesAProjectByEnterAfterItsName) {
+  ShownDesk desk;
+  desk.show(desk.shell.newProject);
+  desk.shell.newProject.dirList.userChoose("/home");
+  desk.type(desk.shell.newProject.txtEnterName, "other");
+  QTest::keyClick(&desk.widget(desk.shell.newProject.txtEnterName), Qt::Key_Return);
+  QTest::qWait(0);
+  EXPECT_EQ(desk.state.projectDir, "/home/other");
+}
+
+TEST(Desk, leadsEnterFromTheNumberOfSpillwaysToWhatComesNext) {
+  ShownDesk desk;
+  frmAuxSpillways& spillways = desk.shell.input.auxSpillways;
+  desk.show(spillways);
+  QWidget& count = desk.widget(spillways.cmbAuxSpillways);
+  const auto focusAfterEnter = [&](const char* chosen) {
+    spillways.cmbAuxSpillways.userSelect(chosen);
+    count.setFocus();
+    QTest::keyClick(&count, Qt::Key_Return);
+    QTest::qWait(0);
+    return desk.window.focusWidget();
+  };
+  EXPECT_EQ(focusAfterEnter("2"), &desk.widget(spillways.txtsway(0)));
+  EXPECT_EQ(focusAfterEnter("0"), &desk.widget(spillways.cmdNext));
+}
+
+TEST(Desk, leavesAPageOfTextByTab) {
+  ShownDesk desk;
+  frmEditor& editor = desk.shell.editor;
+  desk.show(editor);
+  for (Control* control : editor.controls()) {
+    if (control->kind() != ControlKind::text || !desk.widget(*control).isVisible()) continue;
+    desk.widget(*control).setFocus();
+    QTest::keyClick(&desk.widget(*control), Qt::Key_Tab);
+    QTest::qWait(0);
+    EXPECT_NE(desk.window.focusWidget(), &desk.widget(*control)) << control->name();
+  }
+  EXPECT_TRUE(desk.boxes.shown.empty());
 }
 
 }  // namespace

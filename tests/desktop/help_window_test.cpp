@@ -49,6 +49,7 @@ TEST(HelpWindow, listsThePagesThatHoldAllWords) {
   EXPECT_TRUE(window.found().isEmpty());
   window.search({});
   EXPECT_EQ(window.found().size(), all);
+  for (const QString& title : window.found()) EXPECT_FALSE(title.contains(QLatin1Char('`'))) << told(title);
 }
 
 }  // namespace

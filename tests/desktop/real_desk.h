@@ -114,7 +114,9 @@ struct RealDesk {
     QTest::qWait(0);
   }
   void key(Qt::Key key, Qt::KeyboardModifiers with) {
+    constexpr int kPatience = 500;  // milliseconds; a display gives the focus when it likes
     window.activateWindow();
+    (void)QTest::qWaitForWindowActive(&window, kPatience);
     QTest::qWait(0);
     QTest::keyClick(&window, key, with);
     QTest::qWait(0);

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QTableView>
+#include <QTreeView>
 #include <fstream>
 #include <sstream>
 
@@ -249,6 +250,23 @@ TEST(Session, tellsInARealBoxWhatIsWrong) {
   desk.click(desk.shell.newProject.cmdOK);
   EXPECT_EQ(told(text), "Project directory already exists, please try another name.");
   EXPECT_EQ(desk.app.state.projectDir, "");
+}
+
+TEST(Session, showsTheDirectoryInWhichANewProjectIsMade) {
+  RealDesk desk;
+  desk.key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+  auto& tree = dynamic_cast<QTreeView&>(desk.widget(desk.shell.newProject.dirList));
+  const auto inSight = [&tree] {
+    return tree.viewport()->rect().contains(tree.visualRect(tree.currentIndex()).center());
+  };
+  EXPECT_TRUE(QTest::qWaitFor(inSight));
+  constexpr int kSettling = 300;  // in which the directories above are read
+  QTest::qWait(kSettling);
+  EXPECT_TRUE(inSight());
+  EXPECT_EQ(told(tree.currentIndex().data().toString()), std::filesystem::path(desk.folder.path()).filename());
+  tree.setCurrentIndex({});  // as when the directories around it change
+  EXPECT_EQ(desk.shell.newProject.dirList.path(), desk.folder.path());
+  EXPECT_TRUE(QTest::qWaitFor([&tree] { return tree.currentIndex().isValid(); }));
 }
 
 }  // namespace
