@@ -187,13 +187,6 @@ class GaugeBinding : public Binding {
   QProgressBar& bar_;
 };
 
-template <class BindingType, class ControlType, class WidgetType>
-std::unique_ptr<Binding> join(Control& control, QWidget& widget, const UserAction& act) {
-  auto* const fitting = qobject_cast<WidgetType*>(&widget);
-  if (fitting == nullptr) return nullptr;
-  return std::make_unique<BindingType>(dynamic_cast<ControlType&>(control), *fitting, act);
-}
-
 }  // namespace
 
 void Binding::followAll() {

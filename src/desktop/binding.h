@@ -39,4 +39,12 @@ class Binding : public QObject {
 std::unique_ptr<Binding> bindWidget(Control& control, QWidget& widget, const UserAction& act);
 std::unique_ptr<Binding> bindAction(Control& control, QAction& action, const UserAction& act);
 
+// Binds a control to a widget of one kind; null for a widget of another.
+template <class BindingType, class ControlType, class WidgetType>
+std::unique_ptr<Binding> join(Control& control, QWidget& widget, const UserAction& act) {
+  auto* const fitting = qobject_cast<WidgetType*>(&widget);
+  if (fitting == nullptr) return nullptr;
+  return std::make_unique<BindingType>(dynamic_cast<ControlType&>(control), *fitting, act);
+}
+
 }  // namespace kestra

@@ -171,13 +171,6 @@ class DirectoryBinding : public Binding {
   QTimer late_;
 };
 
-template <class BindingType, class ControlType, class WidgetType>
-std::unique_ptr<Binding> join(Control& control, QWidget& widget, const UserAction& act) {
-  auto* const fitting = qobject_cast<WidgetType*>(&widget);
-  if (fitting == nullptr) return nullptr;
-  return std::make_unique<BindingType>(dynamic_cast<ControlType&>(control), *fitting, act);
-}
-
 }  // namespace
 
 std::unique_ptr<Binding> bindChoice(Control& control, QWidget& widget, const UserAction& act) {
